@@ -1,0 +1,10 @@
+create table incidents (report_number text, un_id text, incident_date text, Mode_of_Transportation text, HMIS_Serious_Incident_Ind text, HMIS_Serious_Bulk_Release text, HMIS_Serious_Evacuations text, HMIS_Serious_Fatality text, HMIS_Serious_Major_Artery text, HMIS_Serious_Marine_Pollutant text, HMIS_Serious_Radioactive text);
+insert into incidents values ('S-1','1005','2025-03-02','Highway','Y','N','Y','N','N','N','N');
+insert into incidents values ('S-2','1005','2025-04-11','Highway','N','N','N','N','N','N','N');
+insert into incidents values ('S-3','1005','2025-05-20','Rail','N','N','N','N','N','N','N');
+insert into incidents values ('S-4','1017','2025-01-15','Rail','Y','Y','Y','N','Y','N','N');
+insert into incidents values ('S-5','1090','2025-02-07','Highway','N','N','N','N','N','N','N');
+insert into incidents values ('S-6','1203','2025-06-30','Highway','N','N','N','N','N','N','N');
+insert into incidents values ('S-7','1203','2025-07-01','Highway','N','N','N','N','N','N','N');
+insert into incidents values ('S-8','1993','2025-03-09','Highway','N','N','N','N','N','N','N');
+insert into incidents values ('S-9','1760','2025-05-04','Air','N','N','N','N','N','N','N');

@@ -1,0 +1,152 @@
+// qor-cli material / list
+#include "Cli.h"
+#include "MaterialJson.h"
+
+#include "model/QORModel.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace qor::cli {
+
+namespace {
+
+void printMaterialText(QTextStream& out, const QJsonObject& o)
+{
+    out << o.value(QStringLiteral("name")).toString() << "  UN" << o.value(QStringLiteral("unId")).toString() << "\n";
+    const QJsonObject guide = o.value(QStringLiteral("guide")).toObject();
+    out << "  Guide " << o.value(QStringLiteral("guideId")).toString()
+        << (o.value(QStringLiteral("mayPolymerize")).toBool() ? "P" : "");
+    if (!guide.isEmpty())
+        out << "  " << guide.value(QStringLiteral("name")).toString();
+    out << "\n";
+    const QString cls = o.value(QStringLiteral("class")).toString();
+    if (!cls.isEmpty())
+        out << "  Hazard class " << cls << "  " << o.value(QStringLiteral("classDescription")).toString() << "\n";
+    for (const char* key : { "toxicInhalationHazard", "waterReactive", "chemicalWarefareAgent" }) {
+        const QJsonValue v = o.value(QLatin1String(key));
+        if (v.isString())
+            out << "  " << key << ": " << v.toString() << "\n";
+    }
+    out << "  Incidents (12 months): " << o.value(QStringLiteral("numIncidents")).toInt() << "\n";
+    const QJsonObject iso = o.value(QStringLiteral("isolationDistances")).toObject();
+    for (const QJsonValue& key : o.value(QStringLiteral("isolationConditions")).toArray()) {
+        const QJsonObject r = iso.value(key.toString()).toObject();
+        out << "  Isolation (" << r.value(QStringLiteral("Condition")).toString() << ")\n";
+        for (const char* spill : { "Small", "Large" }) {
+            const QString p = QString::fromLatin1(spill) + QStringLiteral(" Spill ");
+            if (!r.contains(p + QStringLiteral("Initial isolation distance Metric")))
+                continue;
+            out << "    " << spill << " spill: isolate " << r.value(p + QStringLiteral("Initial isolation distance Metric")).toString()
+                << " m / " << r.value(p + QStringLiteral("Initial isolation distance Imp")).toString() << " ft; protect day "
+                << r.value(p + QStringLiteral("Protect distance Day Metric")).toString() << " km / "
+                << r.value(p + QStringLiteral("Protect distance Day Imp")).toString() << " mi; night "
+                << r.value(p + QStringLiteral("Protect distance Night Metric")).toString() << " km / "
+                << r.value(p + QStringLiteral("Protect distance Night Imp")).toString() << " mi\n";
+        }
+    }
+    for (auto it = o.constBegin(); it != o.constEnd(); ++it) {
+        // Keys added by the knowledge lookups: print plain strings as they are.
+        if (it.value().isString() && it.key() == QLatin1String("incidentsSummary"))
+            out << "  " << it.value().toString() << "\n";
+    }
+}
+
+int materialCommand(Context& ctx, QStringList args)
+{
+    if (args.size() != 1)
+        return ctx.usage(QStringLiteral("material needs exactly one UN number or name"));
+    QORModel& model = loadedModel();
+    const MaterialList found = findMaterials(model, args.first());
+    QJsonArray array;
+    for (const auto& m : found)
+        array.append(materialJson(model, *m));
+    if (ctx.json) {
+        ctx.printJson(array);
+    } else {
+        if (found.isEmpty())
+            ctx.out << "No material matches " << args.first() << "\n";
+        for (const QJsonValue& v : array)
+            printMaterialText(ctx.out, v.toObject());
+        ctx.out.flush();
+    }
+    return found.isEmpty() ? NothingFound : Found;
+}
+
+QJsonObject materialRowJson(Material& m)
+{
+    return { { QStringLiteral("name"), m.name }, { QStringLiteral("unId"), m.unId },
+             { QStringLiteral("guideId"), m.guideId }, { QStringLiteral("numIncidents"), m.numIncidents() } };
+}
+
+int listCommand(Context& ctx, QStringList args)
+{
+    QString category = QStringLiteral("A"), sortText = QStringLiteral("0");
+    if (!takeOption(args, QStringLiteral("--category"), &category))
+        return ctx.usage(QStringLiteral("--category needs one of A T U M W P"));
+    if (!takeOption(args, QStringLiteral("--sort"), &sortText))
+        return ctx.usage(QStringLiteral("--sort needs a number from 0 to 3"));
+    const bool incidents = takeFlag(args, QStringLiteral("--incidents"));
+    if (!args.isEmpty())
+        return ctx.usage(QStringLiteral("unexpected argument '%1'").arg(args.first()));
+    bool ok = false;
+    const int sort = sortText.toInt(&ok);
+    if (!ok || sort < 0 || sort > 3)
+        return ctx.usage(QStringLiteral("--sort needs a number from 0 to 3"));
+
+    QORModel& model = loadedModel();
+    if (!model.filters.contains(category))
+        return ctx.usage(QStringLiteral("unknown category '%1' (use one of A T U M W P)").arg(category));
+    model.changeFilter(category, sort);
+    Filter& filter = *model.currentFilter;
+    filter.changeSortType(sort);
+    if (incidents) {
+        filter.hasIncidents = true;
+        model.loadFilterWithData(filter);
+    }
+
+    QJsonArray sections;
+    int total = 0;
+    auto addSection = [&](const QJsonValue& key, const MaterialList& list) {
+        QJsonArray rows;
+        for (const auto& m : list)
+            rows.append(materialRowJson(*m));
+        total += int(list.size());
+        sections.append(QJsonObject{ { QStringLiteral("key"), key }, { QStringLiteral("materials"), rows } });
+    };
+    const QStringList keys = model.getSections();
+    if (sort == SortIncidents)
+        addSection(QJsonValue::Null, model.materialsForSection(0));
+    for (int i = 0; i < keys.size(); ++i)
+        addSection(keys.at(i), model.materialsForSection(i));
+
+    const QString title = filter.getFilterText();
+    if (ctx.json) {
+        ctx.printJson(QJsonObject{ { QStringLiteral("title"), title }, { QStringLiteral("category"), category },
+                                   { QStringLiteral("sort"), sort }, { QStringLiteral("hasIncidents"), incidents },
+                                   { QStringLiteral("sections"), sections } });
+    } else {
+        ctx.out << title << "\n";
+        for (const QJsonValue& s : std::as_const(sections)) {
+            const QJsonObject so = s.toObject();
+            if (so.value(QStringLiteral("key")).isString())
+                ctx.out << "\n[" << so.value(QStringLiteral("key")).toString() << "]\n";
+            for (const QJsonValue& r : so.value(QStringLiteral("materials")).toArray()) {
+                const QJsonObject ro = r.toObject();
+                ctx.out << "  " << ro.value(QStringLiteral("unId")).toString().leftJustified(5) << " "
+                        << ro.value(QStringLiteral("name")).toString() << "  (guide " << ro.value(QStringLiteral("guideId")).toString();
+                if (sort == SortIncidents)
+                    ctx.out << ", " << ro.value(QStringLiteral("numIncidents")).toInt() << " incidents";
+                ctx.out << ")\n";
+            }
+        }
+        ctx.out.flush();
+    }
+    return total > 0 ? Found : NothingFound;
+}
+
+const bool registered = registerCommand({ QStringLiteral("material"), QStringLiteral("material ARG        every material with that UN number, or else that name"), materialCommand })
+    && registerCommand({ QStringLiteral("list"), QStringLiteral("list [--category A|T|U|M|W|P] [--sort 0-3] [--incidents]"), listCommand });
+
+} // namespace
+} // namespace qor::cli

@@ -1,0 +1,13 @@
+#include "model/QORModel.h"
+
+namespace qor {
+
+void QORModel::loadViewedHistory()
+{
+}
+
+void QORModel::saveData()
+{
+}
+
+} // namespace qor

@@ -1,0 +1,94 @@
+#include "Material.h"
+#include "QORModel.h"
+#include "Resources.h"
+
+namespace qor {
+
+int Material::numIncidents() const
+{
+    if (unId.isEmpty())
+        return 0;
+    // Generic names share these numbers; only one name of each carries the count.
+    switch (leadingInt(unId)) {
+    case 1760:
+        if (name != QLatin1String("Corrosive Liquid, N.O.S."))
+            return 0;
+        break;
+    case 2810:
+        if (name != QLatin1String("Toxic Liquid, Organic, N.O.S.") && name != QLatin1String("Poisonous Liquid, Organic, N.O.S."))
+            return 0;
+        break;
+    case 1993:
+        if (name != QLatin1String("Combustible Liquid, N.O.S.") && name != QLatin1String("Flammable Liquid, N.O.S."))
+            return 0;
+        break;
+    default:
+        break;
+    }
+    QORModel* model = QORModel::sharedInstance(false);
+    if (!model)
+        return 0;
+    return model->getMaterialsWithIncidents().value(unId, 0);
+}
+
+std::optional<QString> Material::attributeForKey(const QString& key)
+{
+    QORModel* model = QORModel::sharedInstance(false);
+    if (!model)
+        return std::nullopt;
+    if (key == QLatin1String("USE")) {
+        const StringMap wiser = model->getWiserAttributesForMaterial(*this);
+        auto it = wiser.constFind(key);
+        return it == wiser.cend() ? std::nullopt : std::optional<QString>(*it);
+    }
+    for (const StringMap& source : { model->getCameoAttributesForMaterial(*this), model->getNPGAttributesForMaterial(*this),
+                                     model->getGHSAttributesForMaterial(*this) }) {
+        auto it = source.constFind(key);
+        if (it != source.cend())
+            return *it;
+    }
+    if (key == QLatin1String("CameoHazardText")) {
+        const StringMap wiser = model->getWiserAttributesForMaterial(*this);
+        auto it = wiser.constFind(QStringLiteral("EXP"));
+        if (it != wiser.cend())
+            return *it;
+    }
+    return std::nullopt;
+}
+
+namespace {
+StringMap propertiesFor(Material& m, std::initializer_list<const char*> keys)
+{
+    StringMap out;
+    for (const char* k : keys) {
+        const QString key = QString::fromLatin1(k);
+        if (auto v = m.attributeForKey(key))
+            out.insert(key, *v);
+    }
+    return out;
+}
+} // namespace
+
+StringMap Material::protectionProperties()
+{
+    return propertiesFor(*this, { "skinProtect", "eyeProtect", "washSkinProtect", "changeProtect", "provideProtect" });
+}
+
+StringMap Material::firstAidProperties()
+{
+    return propertiesFor(*this, { "eyeFA", "skinFA", "breathingFA", "swallowFA" });
+}
+
+StringMap Material::chemicalProperties()
+{
+    return propertiesFor(*this, { "mw", "bp", "mlt", "sol", "vp", "ip", "rgasd", "spgr", "flp", "uel", "lel", "mec" });
+}
+
+void Material::releaseUnneededMemory()
+{
+    isolationDistances.reset();
+    npgAttributes.reset();
+    incidentsSummary.reset();
+}
+
+} // namespace qor

@@ -1,0 +1,595 @@
+#include "QORModel.h"
+#include "Resources.h"
+
+#include <QFile>
+#include <QLoggingCategory>
+#include <QMutexLocker>
+#include <QSet>
+#include <QStringDecoder>
+#include <algorithm>
+#include <cstdlib>
+
+Q_LOGGING_CATEGORY(lcQorMemory, "qor.memory", QtWarningMsg)
+
+namespace qor {
+
+namespace {
+QORModel* s_shared = nullptr;
+
+// Reads a text resource whose encoding is not known: a BOM decides, else UTF-8.
+QString readTextDetectingEncoding(const QString& path, bool* ok)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *ok = false;
+        return QString();
+    }
+    *ok = true;
+    const QByteArray bytes = file.readAll();
+    auto encoding = QStringConverter::encodingForData(bytes);
+    QStringDecoder decoder(encoding.value_or(QStringConverter::Utf8));
+    return decoder.decode(bytes);
+}
+} // namespace
+
+QORModel* QORModel::sharedInstance(bool create)
+{
+    if (!s_shared && create)
+        new QORModel();
+    return s_shared;
+}
+
+QORModel::QORModel(QObject* parent) : QObject(parent)
+{
+    // Recorded first, so code run during creation sees this partly built object.
+    s_shared = this;
+    m_isLoading = true;
+    m_incidentsDb = Database::openReadOnlyOrAbort(Resources::path(QStringLiteral("hazmat_incidents"), QStringLiteral("dat")));
+    m_cfrDb = Database::openReadOnlyOrAbort(Resources::path(QStringLiteral("cfr49"), QStringLiteral("db")));
+
+    const auto& cats = CategoryManager::sharedInstance()->categories();
+    auto make = [&](const char* abbrev) {
+        auto f = std::make_shared<Filter>(cats.value(QString::fromLatin1(abbrev)).get());
+        filters.insert(QString::fromLatin1(abbrev), f);
+        return f;
+    };
+    allFilter = make("A");
+    methFilter = make("M");
+    tihFilter = make("T");
+    tihCommonFilter = make("U");
+    polyFilter = make("P");
+    waterReactiveFilter = make("W");
+    currentFilter = allFilter;
+
+    m_npgDb = Database::openReadOnlyOrAbort(Resources::path(QStringLiteral("npg"), QStringLiteral("db")));
+    buildFixedTables();
+
+    m_loadTimer.setSingleShot(true);
+    m_loadTimer.setInterval(100);
+    connect(&m_loadTimer, &QTimer::timeout, this, &QORModel::loadData);
+    m_loadTimer.start();
+}
+
+QORModel::~QORModel()
+{
+    if (s_shared == this)
+        s_shared = nullptr;
+}
+
+void QORModel::buildFixedTables()
+{
+    for (char16_t c = 0x2080; c <= 0x2089; ++c)
+        subscriptChars.append(QString(QChar(c)));
+
+    packageGroupTextList = {
+        { QStringLiteral("I"), L::tr("Great Danger") },
+        { QStringLiteral("II"), L::tr("Medium Danger") },
+        { QStringLiteral("III"), L::tr("Minor Danger") },
+    };
+
+    const struct { const char* key; const char* text; } classes[] = {
+        { "1.1", QT_TRANSLATE_NOOP("QOR", "Explosives with a mass explosion hazard.") },
+        { "1.2", QT_TRANSLATE_NOOP("QOR", "Explosives with a blast/projection hazard.") },
+        { "1.3", QT_TRANSLATE_NOOP("QOR", "Explosives with a minor blast hazard.") },
+        { "1.4", QT_TRANSLATE_NOOP("QOR", "Explosives with a major fire hazard.") },
+        { "1.5", QT_TRANSLATE_NOOP("QOR", "Blasting agents.") },
+        { "1.6", QT_TRANSLATE_NOOP("QOR", "Extremely insensitive explosives.") },
+        { "2.1", QT_TRANSLATE_NOOP("QOR", "Flammable Gas") },
+        { "2.2", QT_TRANSLATE_NOOP("QOR", "Non-Flammable Gases") },
+        { "2.3", QT_TRANSLATE_NOOP("QOR", "Poisonous Gases") },
+        { "3", QT_TRANSLATE_NOOP("QOR", "Flammable Liquids") },
+        { "4.1", QT_TRANSLATE_NOOP("QOR", "Flammable Solids") },
+        { "4.2", QT_TRANSLATE_NOOP("QOR", "Spontaneously Combustible Solids") },
+        { "4.3", QT_TRANSLATE_NOOP("QOR", "Dangerous when Wet") },
+        { "5.1", QT_TRANSLATE_NOOP("QOR", "Oxidizing Agent") },
+        { "5.2", QT_TRANSLATE_NOOP("QOR", "Organic Peroxide Oxidizing Agent") },
+        { "6", QT_TRANSLATE_NOOP("QOR", "Toxic and Infectious Substances") },
+        { "6.1", QT_TRANSLATE_NOOP("QOR", "Poison") },
+        { "6.1-tih", QT_TRANSLATE_NOOP("QOR", "Poison Inhalation Hazard") },
+        { "6.2", QT_TRANSLATE_NOOP("QOR", "Biohazard") },
+        { "7", QT_TRANSLATE_NOOP("QOR", "Radioactive Substances ") },
+        { "8", QT_TRANSLATE_NOOP("QOR", "Corrosive Substances") },
+        { "8.1", QT_TRANSLATE_NOOP("QOR", "Corrosive Substances: Acids") },
+        { "8.2", QT_TRANSLATE_NOOP("QOR", "Corrosive Substances Alkalis") },
+        { "9", QT_TRANSLATE_NOOP("QOR", "Miscellaneous") },
+    };
+    for (const auto& c : classes)
+        classDescriptions.insert(QString::fromLatin1(c.key), L::tr(c.text));
+
+    const char* placardKeys[] = { "1", "1.1", "1.2", "1.3", "1.4", "1.5", "1.6", "2.1", "2.2", "2.3", "3", "4.1",
+                                  "4.2", "4.3", "5.1", "5.2", "6.1", "6.1-tih", "6.1-toxic", "6.2", "7", "8", "9" };
+    for (const char* k : placardKeys)
+        placards.insert(QString::fromLatin1(k), QString::fromLatin1(k) + QStringLiteral(".pdf"));
+    placards.insert(QStringLiteral("blank"), QStringLiteral("9.pdf"));
+
+    for (int i = 1; i <= 9; ++i) {
+        const QString key = QStringLiteral("ghs%1").arg(i, 2, 10, QLatin1Char('0'));
+        ghsPictograms.insert(key, key + QStringLiteral(".pdf"));
+    }
+
+    infoPages = { QStringLiteral("emergency"), QStringLiteral("control"), QStringLiteral("battery"),
+                  QStringLiteral("bleve"), QStringLiteral("criminal"), QStringLiteral("howto"),
+                  QStringLiteral("intermodal"), QStringLiteral("pipelines"), QStringLiteral("clothing"),
+                  QStringLiteral("shippingdocuments"), QStringLiteral("protectiveactions"), QStringLiteral("factors"),
+                  QStringLiteral("railcar"), QStringLiteral("placards"), QStringLiteral("roadtrailer"),
+                  QStringLiteral("safetyprecautions"), QStringLiteral("whotocall"), QStringLiteral("glossary"),
+                  QStringLiteral("ied_safe_standoff_distance"), QStringLiteral("NPG"), QStringLiteral("GHS"),
+                  QStringLiteral("Isolation_Distances") };
+}
+
+void QORModel::logMemory(const char* where) const
+{
+    if (!lcQorMemory().isDebugEnabled())
+        return;
+    QFile statm(QStringLiteral("/proc/self/statm"));
+    if (statm.open(QIODevice::ReadOnly))
+        qCDebug(lcQorMemory) << where << "statm:" << statm.readAll().trimmed();
+}
+
+void QORModel::loadData()
+{
+    QMutexLocker locker(&m_lock);
+    m_loadTimer.stop();
+    m_isLoading = true;
+    loadMaterials();
+    for (const auto& filter : std::as_const(filters))
+        if (!filter->filteredArray || filter->filteredArray->isEmpty())
+            loadFilterWithData(*filter);
+    loadViewedHistory();
+    m_isLoading = false;
+    emit modelLoadingStateChanged();
+    emit filterChanged(allFilter.get());
+}
+
+void QORModel::releaseUnneededMemory()
+{
+    for (const auto& m : std::as_const(materials))
+        m->releaseUnneededMemory();
+}
+
+// ---------------------------------------------------------------- materials
+
+void QORModel::loadMaterials()
+{
+    QFile file(Resources::path(QStringLiteral("chemicals_2024.csv")));
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    const QByteArray bytes = file.readAll();
+    const QString text = QString::fromUtf8(bytes);
+
+    Filter& all = *allFilter;
+    MaterialList* previousSection = nullptr;
+    int lineNumber = 0;
+    materials.reserve(materials.size() + bytes.count('\n') + 1);
+    for (QStringView line : QStringView(text).split(u'\n')) {
+        ++lineNumber;
+        QStringView fields[8];
+        int count = 0;
+        for (QStringView f : line.split(u'^')) {
+            if (count < 8)
+                fields[count] = f;
+            ++count;
+        }
+        if (count < 6)
+            continue;
+        if (count == 6) {
+            // Every data line must carry the seventh field; the data is broken.
+            qCritical().noquote() << QStringLiteral("materials file line %1 has 6 fields").arg(lineNumber);
+            qCritical().noquote() << line.toString();
+            std::abort();
+        }
+        auto m = std::make_shared<Material>();
+        const QStringView name = fields[0];
+        m->name = name.size() >= 4 ? capitalized(name.toString()) : name.toString();
+        m->placardId = fields[1].toString();
+        QStringView guide = fields[2];
+        if (guide.endsWith(u'P')) {
+            m->mayPolymerize = true;
+            guide = guide.left(3);
+        }
+        m->guideId = guide.toString();
+        m->unId = fields[3].toString();
+        if (!fields[4].isEmpty())
+            m->toxicInhalationHazard = fields[4].toString();
+        if (!fields[5].isEmpty())
+            m->waterReactive = fields[5].toString();
+        if (!fields[6].isEmpty()) {
+            if (fields[6] == u"M")
+                m->methLab = true;
+            else
+                m->chemicalWarefareAgent = fields[6].toString();
+        }
+        if (m->waterReactive && !m->waterReactive->isEmpty())
+            m->qorAttributes.insert(QStringLiteral("waterReactive"), L::tr("WATER REACTIVE MATERIAL"));
+        if (m->chemicalWarefareAgent && !m->chemicalWarefareAgent->isEmpty() && *m->chemicalWarefareAgent != QLatin1String("X")
+            && *m->chemicalWarefareAgent != QLatin1String(" "))
+            m->qorAttributes.insert(QStringLiteral("chemicalWarefareAgent"), L::tr("CHEMICAL WARFARE AGENT"));
+        if (m->toxicInhalationHazard && !m->toxicInhalationHazard->isEmpty())
+            m->qorAttributes.insert(QStringLiteral("toxicInhalationHazard"), L::tr("TOXIC INHALATION HAZARD"));
+        // Deliberately false even when the guide carries the "P" suffix.
+        m->qorAttributes.insert(QStringLiteral("mayPolymerize"), false);
+        materials.append(m);
+
+        // Names not starting with a letter go where the previous material went.
+        const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
+        if (first.isLetter())
+            previousSection = &all.alphaSections[QString(first)];
+        if (previousSection)
+            previousSection->append(m);
+    }
+    all.invalidateSectionKeys();
+
+    // Prefix index: keys of 0..3 leading characters; short names use length-1.
+    all.alphaIndex.clear();
+    all.alphaIndex.reserve(materials.size());
+    for (const auto& m : std::as_const(materials)) {
+        const QString lower = m->name.toLower();
+        for (int k = 0; k <= 3; ++k) {
+            const int len = lower.size() <= k ? int(lower.size()) - 1 : k;
+            all.alphaIndex[lower.left(std::max(len, 0))].append(m);
+        }
+    }
+}
+
+const QHash<QString, int>& QORModel::getMaterialsWithIncidents()
+{
+    if (!m_materialsWithIncidents) {
+        QHash<QString, int> counts;
+        Statement st(m_incidentsDb, QStringLiteral("select count(*), un_id from incidents group by un_id"));
+        while (st.step())
+            counts.insert(st.text(1), st.integer(0));
+        m_materialsWithIncidents = std::move(counts);
+    }
+    return *m_materialsWithIncidents;
+}
+
+void QORModel::loadWikipediaDescriptions()
+{
+    bool ok = false;
+    const QString text = readTextDetectingEncoding(Resources::path(QStringLiteral("wikipedia_descriptions_by_un_number.csv")), &ok);
+    if (!ok)
+        return;
+    for (QStringView line : QStringView(text).split(u'\n')) {
+        const auto fields = line.split(u'^');
+        if (fields.size() >= 2)
+            descriptions.insert(fields[0].toString(), fields[1].toString());
+    }
+}
+
+std::optional<QString> QORModel::descriptionForMaterial(Material& material)
+{
+    const StringMap cameo = getCameoAttributesForMaterial(material);
+    auto it = cameo.constFind(QStringLiteral("physDesc"));
+    if (it != cameo.cend())
+        return *it;
+    const StringMap npg = getNPGAttributesForMaterial(material);
+    it = npg.constFind(QStringLiteral("physDesc"));
+    if (it != npg.cend())
+        return *it;
+    return std::nullopt;
+}
+
+QString QORModel::classForMaterial(const Material& material)
+{
+    Statement st(m_npgDb, QStringLiteral("select class_id from dot_classes where un_number = %1").arg(material.unId));
+    if (!st.step())
+        return QString();
+    return st.text(0);
+}
+
+std::optional<QString> QORModel::classDescriptionForMaterial(const Material& material)
+{
+    auto it = classDescriptions.constFind(classForMaterial(material));
+    if (it == classDescriptions.cend())
+        return std::nullopt;
+    return *it;
+}
+
+// ---------------------------------------------------------------- guides
+
+void QORModel::loadGuideList()
+{
+    QList<GuidePtr> list;
+    bool ok = false;
+    const QString text = readTextDetectingEncoding(Resources::path(QStringLiteral("guides.csv")), &ok);
+    if (ok) {
+        for (QStringView line : QStringView(text).split(u'\n')) {
+            const auto fields = line.split(u'^');
+            if (fields.size() >= 2)
+                list.append(std::make_shared<Guide>(fields[0].toString(), fields[1].toString()));
+        }
+    }
+    guides = std::move(list);
+}
+
+GuidePtr QORModel::dotGuideForMaterial(const Material* material) const
+{
+    if (!material)
+        return nullptr;
+    for (const auto& g : guides)
+        if (g->guideId == material->guideId)
+            return g;
+    return nullptr;
+}
+
+// ---------------------------------------------------------------- isolation distances
+
+const IsolationDistances& QORModel::isolationDistancesForMaterial(Material& material)
+{
+    if (material.isolationDistances)
+        return *material.isolationDistances;
+    // Cached before the query, so a material without rows is not asked again.
+    material.isolationDistances.emplace();
+    IsolationDistances& map = *material.isolationDistances;
+
+    static const char* smallKeys[] = {
+        "Small Spill Initial isolation distance Metric", "Small Spill Initial isolation distance Imp",
+        "Small Spill Protect distance Day Metric", "Small Spill Protect distance Day Imp",
+        "Small Spill Protect distance Night Metric", "Small Spill Protect distance Night Imp",
+    };
+    static const char* largeKeys[] = {
+        "Large Spill Initial isolation distance Metric", "Large Spill Initial isolation distance Imp",
+        "Large Spill Protect distance Day Metric", "Large Spill Protect distance Day Imp",
+        "Large Spill Protect distance Night Metric", "Large Spill Protect distance Night Imp",
+    };
+    Statement st(m_npgDb, QStringLiteral("select * from iso_distances where un_id = %1 ").arg(material.unId));
+    while (st.step()) {
+        (void)st.text(0);
+        QString condition = st.text(1);
+        if (condition.isEmpty())
+            condition = L::tr("default");
+        IsolationRecord record;
+        record.insert(QStringLiteral("Condition"), QCoreApplication::translate("QOR", condition.toUtf8().constData()));
+        for (int i = 0; i < 6; ++i)
+            record.insert(QString::fromLatin1(smallKeys[i]), st.text(2 + i));
+        if (!st.isNull(8) && !st.text(8).isEmpty())
+            for (int i = 0; i < 6; ++i)
+                record.insert(QString::fromLatin1(largeKeys[i]), st.text(8 + i));
+        map.insert(condition, record);
+    }
+    return map;
+}
+
+// ---------------------------------------------------------------- filters
+
+void QORModel::changeFilter(const QString& abbrev)
+{
+    changeFilter(abbrev, -1);
+}
+
+void QORModel::changeFilter(const QString& abbrev, int sort)
+{
+    const int previousSort = currentFilter ? currentFilter->sortType : 0;
+    currentFilter = filters.value(abbrev);
+    if (currentFilter)
+        // The plain setter: sortImage deliberately stays as it was.
+        currentFilter->sortType = sort == -1 ? previousSort : sort;
+    emit filterChanged(currentFilter.get());
+}
+
+MaterialList QORModel::getMaterialsUsingFilter(const Filter& filter)
+{
+    const QString& abbrev = filter.categoryAbbrev;
+    const bool inc = filter.hasIncidents;
+    auto select = [&](auto pred) {
+        MaterialList out;
+        for (const auto& m : std::as_const(materials))
+            if (pred(*m) && (!inc || m->numIncidents() > 0))
+                out.append(m);
+        return out;
+    };
+    if (abbrev == QLatin1String("A"))
+        return inc ? select([](const Material&) { return true; }) : materials;
+    if (abbrev == QLatin1String("P"))
+        return select([](const Material& m) { return m.mayPolymerize; });
+    if (abbrev == QLatin1String("T"))
+        return select([](const Material& m) { return m.toxicInhalationHazard.has_value(); });
+    if (abbrev == QLatin1String("U")) {
+        static const QSet<QString> common = { QStringLiteral("1005"), QStringLiteral("1040"), QStringLiteral("1052"),
+                                              QStringLiteral("1079"), QStringLiteral("1050"), QStringLiteral("2186"),
+                                              QStringLiteral("1017") };
+        return select([](const Material& m) { return m.toxicInhalationHazard.has_value() && common.contains(m.unId); });
+    }
+    if (abbrev == QLatin1String("W"))
+        return select([&](const Material& m) { return m.waterReactive && *m.waterReactive == abbrev; });
+    if (abbrev == QLatin1String("Z"))
+        return select([&](const Material& m) { return m.chemicalWarefareAgent && *m.chemicalWarefareAgent == abbrev; });
+    if (abbrev == QLatin1String("M"))
+        return select([](const Material& m) { return m.methLab; });
+    if (!abbrev.isEmpty() && abbrev.at(0).isDigit())
+        return {};  // hazard-class categories: materials carry no class field
+    return materials;
+}
+
+void QORModel::loadFilterWithData(Filter& filter)
+{
+    releaseUnneededMemory();
+    logMemory("before filter rebuild");
+
+    filter.alphaSections.clear();
+    filter.guideSections.clear();
+    filter.unIdSections.clear();
+    filter.filteredArray = getMaterialsUsingFilter(filter);
+    filter.incidentsSortedArray.clear();
+    filter.unIdSortedArray.clear();
+    filter.guideSortedArray.clear();
+    const MaterialList& list = *filter.filteredArray;
+
+    MaterialList* previous = nullptr;
+    for (const auto& m : list) {
+        const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
+        if (first.isLetter())
+            previous = &filter.alphaSections[QString(first)];
+        if (previous)
+            previous->append(m);
+    }
+
+    // Sort keys computed once per material rather than in every comparison.
+    struct Keyed {
+        int key;
+        MaterialPtr m;
+    };
+    auto sortedBy = [&](auto keyOf, bool descending) {
+        std::vector<Keyed> v;
+        v.reserve(list.size());
+        for (const auto& m : list)
+            v.push_back({ keyOf(*m), m });
+        std::stable_sort(v.begin(), v.end(), [descending](const Keyed& a, const Keyed& b) {
+            return descending ? a.key > b.key : a.key < b.key;
+        });
+        MaterialList out;
+        out.reserve(qsizetype(v.size()));
+        for (auto& k : v)
+            out.append(std::move(k.m));
+        return out;
+    };
+    filter.guideSortedArray = sortedBy([](const Material& m) { return leadingInt(m.guideId); }, false);
+    for (const auto& m : std::as_const(filter.guideSortedArray))
+        filter.guideSections[m->guideId].append(m);
+    filter.incidentsSortedArray = sortedBy([](const Material& m) { return m.numIncidents(); }, true);
+    filter.unIdSortedArray = sortedBy([](const Material& m) { return leadingInt(m.unId); }, false);
+
+    for (const auto& m : std::as_const(filter.unIdSortedArray)) {
+        int n = leadingInt(m->unId);
+        if (m->chemicalWarefareAgent && *m->chemicalWarefareAgent == QLatin1String("Z"))
+            n = 0;
+        const QString key = n == 0 ? QStringLiteral(" No Id") : QString::number((n / 100) * 100);
+        filter.unIdSections[key].append(m);
+    }
+    filter.invalidateSectionKeys();
+    logMemory("after filter rebuild");
+}
+
+MaterialList QORModel::getMaterials()
+{
+    if (!currentFilter)
+        return {};
+    if (!currentFilter->filteredArray)
+        loadFilterWithData(*currentFilter);
+    return *currentFilter->filteredArray;
+}
+
+int QORModel::getNumMaterials()
+{
+    return int(getMaterials().size());
+}
+
+QStringList QORModel::getSections()
+{
+    if (!currentFilter)
+        return {};
+    if (!currentFilter->filteredArray)
+        loadFilterWithData(*currentFilter);
+    return currentFilter->sectionKeys(currentFilter->sortType);
+}
+
+MaterialList QORModel::materialsForSection(int section)
+{
+    if (m_isLoading)
+        return getLoadingMaterials();
+    if (!currentFilter)
+        return {};
+    Filter& f = *currentFilter;
+    if (!f.filteredArray)
+        loadFilterWithData(f);
+    if (f.sortType == SortIncidents)
+        return f.incidentsSortedArray;
+    const QStringList& keys = f.sectionKeys(f.sortType);
+    if (keys.isEmpty())
+        return {};  // no sections: nothing to show rather than out of range
+    const QString key = keys.at(std::clamp(section, 0, int(keys.size()) - 1));
+    const auto& dict = f.sortType == SortAlpha ? f.alphaSections : f.sortType == SortUnId ? f.unIdSections : f.guideSections;
+    return dict.value(key);
+}
+
+MaterialPtr QORModel::materialAtIndex(int section, int row)
+{
+    const MaterialList list = materialsForSection(section);
+    if (row < 0 || row >= list.size())
+        return nullptr;
+    return list.at(row);
+}
+
+const MaterialList& QORModel::getLoadingMaterials()
+{
+    if (m_loadingMaterials)
+        return *m_loadingMaterials;
+    MaterialList list;
+    auto ac = std::make_shared<Material>();
+    ac->name = QStringLiteral("AC");
+    ac->unId = QStringLiteral("1051");
+    ac->toxicInhalationHazard = QStringLiteral("X");
+    ac->chemicalWarefareAgent = QStringLiteral("Z");
+    ac->placardId = QStringLiteral("6.1");
+    list.append(ac);
+
+    const QString lang = Preferences::firstPreferredLanguage();
+    struct Pair { const char* name; const char* unId; };
+    static const Pair es[] = {
+        { "Aceite de alcanfor", "1130" }, { "Aceite de colofonia", "1286" }, { "Aceite de esquisto", "1288" },
+        { "Aceite de fusel", "1201" }, { "Aceite de petróleo crudo", "1267" }, { "Aceite de petróleo", "1270" },
+        { "Aceite de pino", "1272" }, { "Aceite mineral para caldeo, ligero", "1202" },
+    };
+    static const Pair fr[] = {
+        { "Accumulateurs au sodium", "2800" },
+        { "Accumulateurs électriques, inversables remplis d'électrolyte liquide", "2794" },
+        { "Accumulateurs électriques, remplis d'électrolyte liquide acide", "1754" },
+        { "Accumulateurs électriques, remplis d'électrolyte liquide alcalin", "2795" },
+        { "Accumulateurs électriques, secs, contenant de l'hydroxyde de potassium solide", "3028" },
+        { "Accumulateurs, sous pression, pneumatique ou hydraulique", "1956" },
+        { "Acétal", "1088" }, { "Acétaldéhyde", "1089" },
+    };
+    static const Pair en[] = {
+        { "Acetal", "1088" }, { "Acetaldehyde", "1089" }, { "Acetaldehyde Ammonia", "1841" },
+        { "Acetaldehyde Oxime", "2332" }, { "Acetic Acid, Glacial", "2789" },
+        { "Acetic acid, solution, more than 10% but not more than 80% acid", "2789" },
+        { "Acetic acid, solution, more than 80% acid", "2790" }, { "Acetic anhydride", "1715" },
+        { "Acetone", "1090" }, { "Acetone Cyanohydrin, Stabilized", "1541" }, { "Acetone Oils", "1091" },
+        { "Acetonitrile", "1648" }, { "Acetyl Bromide", "1718" },
+    };
+    auto add = [&](const Pair* begin, const Pair* end) {
+        for (const Pair* p = begin; p != end; ++p) {
+            auto m = std::make_shared<Material>();
+            m->name = QString::fromUtf8(p->name);
+            m->unId = QString::fromLatin1(p->unId);
+            list.append(m);
+        }
+    };
+    if (lang.startsWith(QLatin1String("es")))
+        add(std::begin(es), std::end(es));
+    else if (lang.startsWith(QLatin1String("fr")))
+        add(std::begin(fr), std::end(fr));
+    else
+        add(std::begin(en), std::end(en));
+    m_loadingMaterials = std::move(list);
+    return *m_loadingMaterials;
+}
+
+QString QORModel::getDefaultSortImage() const
+{
+    if (currentFilter && !currentFilter->defaultSortImage.isEmpty())
+        return currentFilter->defaultSortImage;
+    return QStringLiteral("Sort-Alphabetically.png");
+}
+
+} // namespace qor

@@ -1,0 +1,135 @@
+#pragma once
+#include "Filter.h"
+#include "Material.h"
+#include "Sqlite.h"
+
+#include <QHash>
+#include <QMap>
+#include <QObject>
+#include <QRecursiveMutex>
+#include <QStringList>
+#include <QTimer>
+
+namespace qor {
+
+// The one shared data model: opens the three databases, holds the materials,
+// guides, filters and fixed tables, and answers every per-material lookup.
+class QORModel : public QObject {
+    Q_OBJECT
+public:
+    // Notification names; delivered as the signals below.
+    static constexpr const char* kModelLoadingStateChanged = "ModelLoadingStateChanged";
+    static constexpr const char* kFilterChanged = "filterchanged";
+
+    // The shared model, created on first call (unless create is false).
+    static QORModel* sharedInstance(bool create = true);
+
+    // Records itself as the shared instance before building anything, opens the
+    // databases (aborting when one cannot be opened) and schedules loadData.
+    explicit QORModel(QObject* parent = nullptr);
+    ~QORModel() override;
+
+    // --- start-up and loading ---
+    void loadData();
+    bool isLoading() const { return m_isLoading; }
+    void releaseUnneededMemory();
+    // Writes the user's data (the viewed history).
+    void saveData();
+
+    // --- fixed tables ---
+    QMap<QString, FilterPtr> filters;
+    FilterPtr currentFilter;
+    FilterPtr allFilter, methFilter, tihFilter, tihCommonFilter, polyFilter, waterReactiveFilter;
+    FilterPtr chemicalWarfareFilter;  // declared, never assigned by start-up
+    QMap<QString, QString> packageGroupTextList;
+    QMap<QString, QString> classDescriptions;
+    // placard key -> PDF resource name; "blank" deliberately shows placard 9
+    QMap<QString, QString> placards;
+    QMap<QString, QString> ghsPictograms;
+    QStringList subscriptChars;
+    QStringList infoPages;
+    bool shouldShowCelsius() const { return m_showCelsius; }
+    void setShowCelsius(bool v) { m_showCelsius = v; }
+    bool shouldShowFahrenheit() const { return m_showFahrenheit; }
+    void setShowFahrenheit(bool v) { m_showFahrenheit = v; }
+
+    // --- materials ---
+    MaterialList materials;
+    QHash<QString, QString> descriptions;
+    void loadMaterials();
+    const QHash<QString, int>& getMaterialsWithIncidents();
+    void loadWikipediaDescriptions();
+    std::optional<QString> descriptionForMaterial(Material& material);
+    QString classForMaterial(const Material& material);
+    std::optional<QString> classDescriptionForMaterial(const Material& material);
+
+    // --- guides ---
+    QList<GuidePtr> guides;
+    void loadGuideList();
+    GuidePtr dotGuideForMaterial(const Material* material) const;
+
+    // --- isolation distances ---
+    const IsolationDistances& isolationDistancesForMaterial(Material& material);
+
+    // --- filters, sections, sort orders ---
+    void changeFilter(const QString& abbrev);
+    void changeFilter(const QString& abbrev, int sort);
+    MaterialList getMaterialsUsingFilter(const Filter& filter);
+    void loadFilterWithData(Filter& filter);
+    MaterialList getMaterials();
+    int getNumMaterials();
+    QStringList getSections();
+    MaterialList materialsForSection(int section);
+    MaterialPtr materialAtIndex(int section, int row);
+    const MaterialList& getLoadingMaterials();
+    QString getDefaultSortImage() const;
+
+    // --- per-material knowledge (incidents, chemistry, shipping, regulations) ---
+    QString incidentsSummaryForMaterial(Material& material);
+    static void addCount(QHash<QString, int>& counts, const QString& amountToAdd, const QString& key);
+    StringMap getNPGCasNumbersForMaterial(Material& material);
+    StringMap getNPGAttributesForMaterial(Material& material);
+    StringMap getCameoAttributesForMaterial(Material& material);
+    StringMap getWiserAttributesForMaterial(Material& material);
+    StringMap getGHSAttributesForMaterial(Material& material);
+    std::optional<StringMap> nfpaForMaterial(Material& material);
+    QString unicodeFormula(const QString& formula) const;
+    QList<StringMap> getHmtEntriesForMaterial(Material& material);
+    StringMap getHmtAttributesForMaterial(Material& material);
+    QString titleForHMTRegSection(const QString& section);
+    QString vesselStowageDescForCategory(const QString& category);
+    QString placardNameForMaterial(Material& material);
+    // section may be absent (std::nullopt): the node id is used instead.
+    QString getHTMLTextForCFRSection(const std::optional<QString>& section, const QString& node);
+
+    // --- databases, held for the life of the process ---
+    const Database& incidentsDatabase() const { return m_incidentsDb; }
+    const Database& regulationsDatabase() const { return m_cfrDb; }
+    const Database& chemistryDatabase() const { return m_npgDb; }
+
+    QRecursiveMutex& lock() { return m_lock; }
+
+signals:
+    // "ModelLoadingStateChanged"
+    void modelLoadingStateChanged();
+    // "filterchanged"; the filter is null when there is none
+    void filterChanged(qor::Filter* filter);
+
+private:
+    void buildFixedTables();
+    void loadViewedHistory();
+    void logMemory(const char* where) const;
+
+    bool m_isLoading = true;
+    bool m_showCelsius = false;
+    bool m_showFahrenheit = false;
+    Database m_incidentsDb;
+    Database m_cfrDb;
+    Database m_npgDb;
+    std::optional<QHash<QString, int>> m_materialsWithIncidents;
+    std::optional<MaterialList> m_loadingMaterials;
+    QRecursiveMutex m_lock;
+    QTimer m_loadTimer;
+};
+
+} // namespace qor

@@ -1,0 +1,84 @@
+#include "FixturePack.h"
+
+#include "model/PackSchema.h"
+#include "model/QORModel.h"
+#include "model/Resources.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+namespace qor::test {
+
+namespace {
+void exec(const QString& dbPath, const QString& sql)
+{
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open(dbPath.toUtf8().constData(), &db), SQLITE_OK);
+    char* err = nullptr;
+    const int rc = sqlite3_exec(db, sql.toUtf8().constData(), nullptr, nullptr, &err);
+    EXPECT_EQ(rc, SQLITE_OK) << (err ? err : "") << "\n" << sql.toStdString();
+    sqlite3_free(err);
+    sqlite3_close(db);
+}
+} // namespace
+
+FixturePack::FixturePack()
+{
+    for (const auto& db : packDatabases()) {
+        QStringList creates;
+        for (const auto& t : db.tables)
+            creates << t.createSql() + QLatin1Char(';');
+        exec(path(db.fileName), creates.join(QLatin1Char('\n')));
+    }
+    setMaterials({});
+    setGuides({});
+    activate();
+}
+
+FixturePack::~FixturePack()
+{
+    Resources::setOverride(QString());
+}
+
+void FixturePack::writeFile(const QString& name, const QByteArray& bytes)
+{
+    QFile f(path(name));
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(bytes);
+}
+
+void FixturePack::setMaterials(const QStringList& lines)
+{
+    writeFile(QStringLiteral("chemicals_2024.csv"), (lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8());
+}
+
+void FixturePack::setGuides(const QStringList& lines)
+{
+    writeFile(QStringLiteral("guides.csv"), (lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8());
+}
+
+void FixturePack::sql(const QString& dbFile, const QString& statements)
+{
+    exec(path(dbFile), statements);
+}
+
+void FixturePack::activate()
+{
+    Resources::setOverride(dir());
+}
+
+ModelFixture::ModelFixture(bool load)
+{
+    delete QORModel::sharedInstance(false);
+    QORModel* model = new QORModel();
+    if (load)
+        model->loadData();
+}
+
+ModelFixture::~ModelFixture()
+{
+    delete QORModel::sharedInstance(false);
+}
+
+} // namespace qor::test

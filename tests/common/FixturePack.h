@@ -1,0 +1,38 @@
+#pragma once
+// Builds a small data pack in a temporary folder: the materials and guides
+// files as given, and the three databases with the pack's tables, filled by
+// the SQL each test supplies. Points the resource lookup at it.
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+namespace qor::test {
+
+class FixturePack {
+public:
+    FixturePack();
+    ~FixturePack();
+
+    QString dir() const { return m_dir.path(); }
+    QString path(const QString& file) const { return m_dir.filePath(file); }
+
+    void setMaterials(const QStringList& lines);   // "^"-separated lines
+    void setGuides(const QStringList& lines);
+    void writeFile(const QString& name, const QByteArray& bytes);
+    // Runs SQL against "npg.db", "cfr49.db" or "hazmat_incidents.dat" (tables exist already).
+    void sql(const QString& dbFile, const QString& statements);
+    // Makes the resource lookup read this pack.
+    void activate();
+
+private:
+    QTemporaryDir m_dir;
+};
+
+// A fresh shared model over the active pack; loadData has run when load is true.
+class ModelFixture {
+public:
+    explicit ModelFixture(bool load = true);
+    ~ModelFixture();
+};
+
+} // namespace qor::test
