@@ -1,0 +1,83 @@
+#pragma once
+// The small page-view interface the page factories load HTML into. The app
+// installs a creator backed by the web engine; tests install fakes; without
+// either, pages are prepared but shown nowhere.
+#include <QByteArray>
+#include <QObject>
+#include <QSize>
+#include <QString>
+#include <QUrl>
+#include <QVariant>
+#include <functional>
+#include <memory>
+
+namespace qor {
+
+class PageView : public QObject {
+    Q_OBJECT
+public:
+    using ScriptCallback = std::function<void(const QVariant& result, const QString& error)>;
+
+    explicit PageView(QObject* parent = nullptr) : QObject(parent) {}
+    ~PageView() override = default;
+
+    virtual void loadData(const QByteArray& data, const QString& mimeType, const QString& encoding, const QUrl& baseUrl) = 0;
+    virtual void loadUrl(const QUrl& url) = 0;
+    virtual void stopLoading() = 0;
+    // Asynchronous; the callback runs on the main thread when the result arrives.
+    virtual void evaluateJavaScript(const QString& script, ScriptCallback done) = 0;
+
+    QSize size() const { return m_size; }
+    void setSize(const QSize& size) { m_size = size; }
+
+signals:
+    void loadFinished(bool ok);
+    // A link the user followed; the screen decides what to do with it.
+    void navigationRequested(const QUrl& url);
+
+private:
+    QSize m_size;
+};
+
+// Records what it was asked to do and never finishes loading by itself.
+class NullPageView : public PageView {
+    Q_OBJECT
+public:
+    using PageView::PageView;
+    void loadData(const QByteArray& data, const QString&, const QString&, const QUrl& baseUrl) override
+    {
+        lastData = data;
+        lastBaseUrl = baseUrl;
+        ++loadCount;
+    }
+    void loadUrl(const QUrl& url) override
+    {
+        lastUrl = url;
+        ++loadCount;
+    }
+    void stopLoading() override { ++stopCount; }
+    void evaluateJavaScript(const QString& script, ScriptCallback done) override
+    {
+        scripts.append(script);
+        if (done)
+            done(QVariant(), QString());
+    }
+
+    QByteArray lastData;
+    QUrl lastBaseUrl;
+    QUrl lastUrl;
+    QStringList scripts;
+    int loadCount = 0;
+    int stopCount = 0;
+};
+
+class PageViewFactory {
+public:
+    using Creator = std::function<PageView*()>;
+    // The web-engine backed creator (app) or a fake (tests).
+    static void setCreator(Creator creator);
+    // A new page view, owned by the caller.
+    static PageView* create();
+};
+
+} // namespace qor
