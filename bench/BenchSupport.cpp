@@ -63,6 +63,7 @@ void writeScalePack(const QString& dir, int materials, int incidents)
             exec(npg, QStringLiteral("insert into iso_distances values ('%1',NULL,'30','100','0.1','0.1','0.2','0.1',"
                                      "'300','1000','1.6','1.0','4.1','2.6')").arg(unId));
     }
+    exec(npg, QStringLiteral("create index iso_distances_un_id on iso_distances (un_id)"));
     exec(npg, QStringLiteral("commit"));
     sqlite3_close(npg);
     QFile f(dir + QStringLiteral("/chemicals_2024.csv"));

@@ -5,6 +5,20 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <ostream>
+
+// Readable QString values in test failure messages.
+inline void PrintTo(const QString& s, std::ostream* os)
+{
+    *os << '"' << s.toStdString() << '"';
+}
+inline void PrintTo(const QStringList& list, std::ostream* os)
+{
+    *os << "{ ";
+    for (const QString& s : list)
+        *os << '"' << s.toStdString() << "\" ";
+    *os << "}";
+}
 
 namespace qor::test {
 

@@ -1,0 +1,203 @@
+// Categories, sort orders, sections and the loading placeholder list.
+#include "FixturePack.h"
+
+#include "model/QORModel.h"
+#include "model/Resources.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+using namespace qor;
+using qor::test::FixturePack;
+using qor::test::ModelFixture;
+
+namespace {
+
+QStringList names(const MaterialList& list)
+{
+    QStringList out;
+    for (const auto& m : list)
+        out << m->name;
+    return out;
+}
+
+const QStringList kMaterials = {
+    "CHLORINE^2.3^124^1017^1017^^",
+    "AMMONIA, ANHYDROUS^2.3^125^1005^1005^^",
+    "ACROLEIN, STABILIZED^6.1^131P^1092^1092^^",
+    "SODIUM^4.3^138^1428^^W^",
+    "PHOSGENE^2.3^125^1076^1076^^",
+    "RED PHOSPHORUS^4.1^133^1338^^^M",
+    "SARIN^6.1^153^2810^^^Z",
+    "MYSTERY^3^128^N/A^^^",
+    "ACETONE^3^127^1090^^^",
+};
+
+struct Filters : ::testing::Test {
+    FixturePack pack;
+    std::unique_ptr<ModelFixture> fixture;
+    QORModel* model = nullptr;
+    void SetUp() override
+    {
+        pack.setMaterials(kMaterials);
+        pack.sql("hazmat_incidents.dat", "insert into incidents (un_id) values ('1017'),('1017'),('1005'),('1090'),('1090'),('1090');");
+        fixture = std::make_unique<ModelFixture>();
+        model = QORModel::sharedInstance();
+    }
+};
+
+} // namespace
+
+TEST_F(Filters, CategoriesSelectTheirMaterials)
+{
+    EXPECT_EQ(model->filters.keys(), QStringList({ "A", "M", "P", "T", "U", "W" }));
+    EXPECT_EQ(model->allFilter->filteredArray->size(), 9);
+    EXPECT_EQ(names(*model->tihFilter->filteredArray),
+              QStringList({ "Chlorine", "Ammonia, Anhydrous", "Acrolein, Stabilized", "Phosgene" }));
+    EXPECT_EQ(names(*model->tihCommonFilter->filteredArray), QStringList({ "Chlorine", "Ammonia, Anhydrous" }));
+    EXPECT_EQ(names(*model->polyFilter->filteredArray), QStringList({ "Acrolein, Stabilized" }));
+    EXPECT_EQ(names(*model->waterReactiveFilter->filteredArray), QStringList({ "Sodium" }));
+    EXPECT_EQ(names(*model->methFilter->filteredArray), QStringList({ "Red Phosphorus" }));
+    EXPECT_FALSE(model->chemicalWarfareFilter) << "the warfare category is not a standing filter";
+
+    Filter& tih = *model->tihFilter;
+    tih.hasIncidents = true;
+    model->loadFilterWithData(tih);
+    EXPECT_EQ(names(*tih.filteredArray), QStringList({ "Chlorine", "Ammonia, Anhydrous" }));
+}
+
+TEST_F(Filters, SortOrdersAndSections)
+{
+    Filter& all = *model->allFilter;
+    // Incidents: most first; equal counts keep file order (no tie-break).
+    EXPECT_EQ(names(all.incidentsSortedArray).mid(0, 4),
+              QStringList({ "Acetone", "Chlorine", "Ammonia, Anhydrous", "Acrolein, Stabilized" }));
+    EXPECT_EQ(names(all.guideSortedArray).first(), "Chlorine");
+    EXPECT_EQ(names(all.unIdSortedArray).first(), "Mystery") << "a non-numeric id sorts as 0";
+
+    model->changeFilter("A", SortUnId);
+    // A warfare agent and a non-numeric id both land in " No Id", which sorts first.
+    EXPECT_EQ(model->getSections(), QStringList({ " No Id", "1000", "1300", "1400" }));
+    EXPECT_EQ(names(model->materialsForSection(0)), QStringList({ "Mystery", "Sarin" }));
+    EXPECT_EQ(names(model->materialsForSection(1)),
+              QStringList({ "Ammonia, Anhydrous", "Chlorine", "Phosgene", "Acetone", "Acrolein, Stabilized" }));
+    EXPECT_EQ(names(model->materialsForSection(99)), QStringList({ "Sodium" })) << "a section past the end is clamped";
+
+    model->changeFilter("A", SortIncidents);
+    EXPECT_TRUE(model->getSections().isEmpty()) << "the incidents sort is one list without sections";
+    EXPECT_EQ(model->materialsForSection(0).size(), 9);
+
+    model->changeFilter("A", SortGuide);
+    EXPECT_EQ(model->getSections().first(), "124");
+    EXPECT_EQ(model->materialAtIndex(0, 0)->name, "Chlorine");
+    EXPECT_FALSE(model->materialAtIndex(0, 1)) << "a row past the end answers none";
+}
+
+TEST_F(Filters, ChangingCategoryCarriesTheSortButNotItsImage)
+{
+    QSignalSpy spy(model, &QORModel::filterChanged);
+    model->allFilter->changeSortType(SortGuide);
+    model->changeFilter("T");
+    EXPECT_EQ(model->currentFilter, model->tihFilter);
+    EXPECT_EQ(model->tihFilter->sortType, SortGuide);
+    EXPECT_EQ(model->tihFilter->sortImage, "Sort-Alphabetically.pdf") << "the plain setter leaves the image";
+    ASSERT_EQ(spy.count(), 1);
+    EXPECT_EQ(spy.at(0).at(0).value<Filter*>(), model->tihFilter.get());
+
+    model->changeFilter("Q");
+    EXPECT_FALSE(model->currentFilter) << "an unknown category leaves no current filter";
+    EXPECT_EQ(spy.at(1).at(0).value<Filter*>(), nullptr);
+    EXPECT_TRUE(model->getSections().isEmpty());
+    EXPECT_EQ(model->getDefaultSortImage(), "Sort-Alphabetically.png");
+}
+
+TEST_F(Filters, SortTypeCyclesAndTitles)
+{
+    Filter f;
+    f.changeSortType(3);
+    f.nextSortType();
+    EXPECT_EQ(f.sortType, 0);
+    EXPECT_EQ(f.sortImage, "Sort-Alphabetically.pdf");
+    f.nextSortType();
+    EXPECT_EQ(f.sortImage, "Sort-UnId.pdf");
+
+    EXPECT_EQ(model->allFilter->getFilterText(), "Materials");
+    EXPECT_EQ(model->tihFilter->getFilterText(), "Toxic Inhalation Hazard");
+    EXPECT_TRUE(model->allFilter->isBlank());
+    EXPECT_FALSE(model->tihFilter->isBlank());
+    model->allFilter->hasIncidents = true;
+    EXPECT_FALSE(model->allFilter->isBlank());
+}
+
+TEST(FiltersLoading, PlaceholderListUntilLoaded)
+{
+    FixturePack pack;
+    pack.setMaterials(kMaterials);
+    ModelFixture fixture(false);
+    QORModel* model = QORModel::sharedInstance();
+    EXPECT_TRUE(model->isLoading());
+    EXPECT_TRUE(model->materials.isEmpty());
+    EXPECT_EQ(model->allFilter->getFilterText(), " Loading...");
+    const MaterialList placeholder = model->materialsForSection(7);
+    ASSERT_FALSE(placeholder.isEmpty());
+    EXPECT_EQ(placeholder.first()->name, "AC");
+    EXPECT_EQ(placeholder.first()->unId, "1051");
+    EXPECT_FALSE(model->materialAtIndex(3, int(placeholder.size()))) << "past the end";
+    EXPECT_EQ(model->materialAtIndex(3, 0)->name, "AC");
+}
+
+TEST(FiltersLoading, LoadingAnnouncesItselfOnceThenTheFilter)
+{
+    FixturePack pack;
+    pack.setMaterials(kMaterials);
+    ModelFixture fixture(false);
+    QORModel* model = QORModel::sharedInstance();
+    QStringList order;
+    QObject::connect(model, &QORModel::modelLoadingStateChanged, [&] { order << QORModel::kModelLoadingStateChanged; });
+    QObject::connect(model, &QORModel::filterChanged, [&](Filter* f) {
+        order << QORModel::kFilterChanged;
+        EXPECT_EQ(f, model->allFilter.get());
+    });
+    // The load is scheduled 0.1 s after creation on the event loop.
+    QSignalSpy spy(model, &QORModel::modelLoadingStateChanged);
+    ASSERT_TRUE(spy.wait(2000));
+    EXPECT_EQ(order, QStringList({ "ModelLoadingStateChanged", "filterchanged" }));
+    EXPECT_FALSE(model->isLoading());
+    EXPECT_EQ(model->materials.size(), kMaterials.size());
+}
+
+TEST(FiltersLoading, PlaceholderFollowsTheFirstPreferredLanguage)
+{
+    FixturePack pack;
+    for (const auto& [lang, second] : { std::pair{ "fr-FR", "Accumulateurs au sodium" },
+                                        std::pair{ "es", "Aceite de alcanfor" },
+                                        std::pair{ "de", "Acetal" } }) {
+        Preferences::setLanguageOverride(QString::fromLatin1(lang));
+        ModelFixture fixture(false);
+        const MaterialList& list = QORModel::sharedInstance()->getLoadingMaterials();
+        ASSERT_GE(list.size(), 2);
+        EXPECT_EQ(list.at(1)->name, QString::fromUtf8(second)) << lang;
+    }
+    Preferences::setLanguageOverride(QString());
+}
+
+TEST(SharedInstance, OneModelAtATime)
+{
+    FixturePack pack;
+    ModelFixture fixture(false);
+    QORModel* first = QORModel::sharedInstance(false);
+    ASSERT_TRUE(first);
+    EXPECT_EQ(QORModel::sharedInstance(), first);
+    EXPECT_EQ(first->placards.value("blank"), "9.pdf") << "the blank placard shows placard 9";
+    EXPECT_FALSE(first->classDescriptions.contains("1"));
+    EXPECT_EQ(first->classDescriptions.value("7"), "Radioactive Substances ");
+}
+
+TEST(SharedInstanceDeathTest, MissingDatabaseAbortsNamingTheFile)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    FixturePack pack;
+    QFile::remove(pack.path("npg.db"));
+    pack.writeFile("cfr49.db", "this is not a database");
+    EXPECT_DEATH({ ModelFixture f(false); }, "cannot open database .*cfr49.db");
+}

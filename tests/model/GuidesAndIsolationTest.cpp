@@ -1,0 +1,74 @@
+// Guides of materials and the isolation distance lookup.
+#include "FixturePack.h"
+
+#include "model/QORModel.h"
+
+#include <gtest/gtest.h>
+
+using namespace qor;
+using qor::test::FixturePack;
+using qor::test::ModelFixture;
+
+TEST(Guides, FirstMatchingGuideAndReloadWithoutDuplicates)
+{
+    FixturePack pack;
+    pack.setMaterials({ "ACETONE^3^127^1090^^^", "NO GUIDE^3^^1091^^^" });
+    pack.setGuides({ "127^Flammable Liquids (Water-Miscible)", "127^Second copy", "128^Flammable Liquids", "bad line" });
+    ModelFixture model;
+    QORModel* m = QORModel::sharedInstance();
+    m->loadGuideList();
+    m->loadGuideList();
+    ASSERT_EQ(m->guides.size(), 3);
+    EXPECT_EQ(m->dotGuideForMaterial(m->materials.at(0).get())->name, "Flammable Liquids (Water-Miscible)");
+    EXPECT_FALSE(m->dotGuideForMaterial(m->materials.at(1).get()));
+    EXPECT_FALSE(m->dotGuideForMaterial(nullptr));
+
+    pack.setGuides({ "^Guide without a number" });
+    m->loadGuideList();
+    EXPECT_EQ(m->dotGuideForMaterial(m->materials.at(1).get())->name, "Guide without a number");
+}
+
+TEST(Isolation, ConditionsRecordsAndCaching)
+{
+    FixturePack pack;
+    pack.setMaterials({ "THIONYL CHLORIDE^8^137^1836^HCl, SO2^W^", "ACETONE^3^127^1090^^^", "AMMONIA^2.3^125^1005^X^^" });
+    pack.sql("npg.db",
+             "insert into iso_distances values ('1836',NULL,'30','100','0.1','0.1','0.2','0.1','100','300','0.6','0.4','1.9','1.2');"
+             "insert into iso_distances values ('1836','When Spilled in Water','30','100','0.1','0.1','0.3','0.2','','','','','','');"
+             "insert into iso_distances values ('1836','When Spilled in Water','60','200','0.4','0.3','1.7','1.1','500','1500','6.0','3.8','11+','7+');"
+             "insert into iso_distances values ('1005','','30','100','0.1','0.1','0.2','0.1',NULL,NULL,NULL,NULL,NULL,NULL);");
+    ModelFixture model;
+    QORModel* m = QORModel::sharedInstance();
+
+    Material& thionyl = *m->materials.at(0);
+    const IsolationDistances& iso = m->isolationDistancesForMaterial(thionyl);
+    ASSERT_EQ(iso.keys(), QStringList({ "default", "When Spilled in Water" })) << "database row order";
+    const IsolationRecord water = iso.value("When Spilled in Water");
+    EXPECT_EQ(water.value("Condition"), "When Spilled in Water");
+    EXPECT_EQ(water.value("Small Spill Initial isolation distance Metric"), "60") << "the last row wins";
+    EXPECT_EQ(water.value("Large Spill Protect distance Night Metric"), "11+") << "open-ended values stay text";
+    EXPECT_EQ(water.value("Large Spill Protect distance Night Imp"), "7+");
+    EXPECT_EQ(water.size(), 13);
+    EXPECT_EQ(&m->isolationDistancesForMaterial(thionyl), &iso) << "the cached map is returned";
+
+    const IsolationDistances& ammonia = m->isolationDistancesForMaterial(*m->materials.at(2));
+    ASSERT_EQ(ammonia.keys(), QStringList({ "default" })) << "an empty condition reads as default";
+    EXPECT_EQ(ammonia.value("default").size(), 7) << "no large-spill keys without column 8";
+
+    Material& acetone = *m->materials.at(1);
+    EXPECT_TRUE(m->isolationDistancesForMaterial(acetone).isEmpty());
+    EXPECT_TRUE(acetone.isolationDistances.has_value()) << "an empty answer is cached too";
+    m->releaseUnneededMemory();
+    EXPECT_FALSE(acetone.isolationDistances.has_value());
+    EXPECT_FALSE(thionyl.isolationDistances.has_value());
+}
+
+TEST(Isolation, NonNumericIdFailsQuietly)
+{
+    FixturePack pack;
+    pack.setMaterials({ "ODD NAME'S ID^3^127^1090 or 1=1; drop^^^" });
+    ModelFixture model;
+    QORModel* m = QORModel::sharedInstance();
+    EXPECT_TRUE(m->isolationDistancesForMaterial(*m->materials.at(0)).isEmpty());
+    EXPECT_EQ(m->classForMaterial(*m->materials.at(0)), "");
+}

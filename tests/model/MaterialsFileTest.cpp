@@ -1,0 +1,165 @@
+// Reading the materials file: names, marks, captions, sections and the prefix index.
+#include "FixturePack.h"
+
+#include "model/QORModel.h"
+
+#include <gtest/gtest.h>
+
+using namespace qor;
+using qor::test::FixturePack;
+using qor::test::ModelFixture;
+
+namespace {
+
+MaterialPtr byName(const QString& name)
+{
+    for (const auto& m : QORModel::sharedInstance()->materials)
+        if (m->name == name)
+            return m;
+    return nullptr;
+}
+
+QStringList names(const MaterialList& list)
+{
+    QStringList out;
+    for (const auto& m : list)
+        out << m->name;
+    return out;
+}
+
+} // namespace
+
+TEST(MaterialsFile, NamesMarksAndCaptions)
+{
+    FixturePack pack;
+    pack.setMaterials({
+        "AC^6.1^117^1051^X^^Z",
+        "ACETONE^3^127^1090^^^",
+        "acetic acid, glacial^8^132^2789^^^",
+        "ACROLEIN, STABILIZED^6.1^131P^1092^1092^^",
+        "RED PHOSPHORUS^4.1^133^1338^^^M",
+        "MUSTARD^6.1^153^2810^^^X",
+        "LEWISITE^6.1^153^2810^^^ ",
+        "SODIUM^4.3^138^1428^^W^",
+    });
+    ModelFixture model;
+
+    ASSERT_EQ(QORModel::sharedInstance()->materials.size(), 8);
+    EXPECT_TRUE(byName("AC")) << "short names are kept as written";
+    EXPECT_TRUE(byName("Acetone"));
+    EXPECT_TRUE(byName("Acetic Acid, Glacial"));
+
+    auto acrolein = byName("Acrolein, Stabilized");
+    ASSERT_TRUE(acrolein);
+    EXPECT_EQ(acrolein->guideId, "131");
+    EXPECT_TRUE(acrolein->mayPolymerize);
+    // The caption deliberately stays false even though the guide says P.
+    EXPECT_EQ(acrolein->qorAttributes.value("mayPolymerize"), QVariant(false));
+    EXPECT_EQ(acrolein->qorAttributes.value("toxicInhalationHazard").toString(), "TOXIC INHALATION HAZARD");
+
+    auto red = byName("Red Phosphorus");
+    EXPECT_TRUE(red->methLab);
+    EXPECT_FALSE(red->chemicalWarefareAgent.has_value());
+
+    auto ac = byName("AC");
+    EXPECT_EQ(ac->chemicalWarefareAgent.value_or(""), "Z");
+    EXPECT_EQ(ac->qorAttributes.value("chemicalWarefareAgent").toString(), "CHEMICAL WARFARE AGENT");
+    // "X" and a lone blank are stored as marks but carry no caption.
+    EXPECT_EQ(byName("Mustard")->chemicalWarefareAgent.value_or(""), "X");
+    EXPECT_FALSE(byName("Mustard")->qorAttributes.contains("chemicalWarefareAgent"));
+    EXPECT_FALSE(byName("Lewisite")->qorAttributes.contains("chemicalWarefareAgent"));
+
+    EXPECT_EQ(byName("Sodium")->qorAttributes.value("waterReactive").toString(), "WATER REACTIVE MATERIAL");
+}
+
+TEST(MaterialsFile, ShortLinesAreSkippedAndMissingFileGivesNoMaterials)
+{
+    FixturePack pack;
+    pack.setMaterials({ "TOO^FEW^FIELDS", "", "ACETONE^3^127^1090^^^" });
+    {
+        ModelFixture model;
+        EXPECT_EQ(QORModel::sharedInstance()->materials.size(), 1);
+    }
+    QFile::remove(pack.path("chemicals_2024.csv"));
+    ModelFixture model;
+    EXPECT_TRUE(QORModel::sharedInstance()->materials.isEmpty());
+    EXPECT_FALSE(QORModel::sharedInstance()->isLoading()) << "loading completes without the file";
+}
+
+TEST(MaterialsFileDeathTest, SixFieldLineAbortsNamingTheLine)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    FixturePack pack;
+    pack.setMaterials({ "ACETONE^3^127^1090^^^", "BROKEN^3^127^1091^^" });
+    EXPECT_DEATH({ ModelFixture model; }, "materials file line 2 has 6 fields");
+}
+
+TEST(MaterialsFile, AlphabeticalSectionsCarryNonLettersOver)
+{
+    FixturePack pack;
+    pack.setMaterials({
+        "1,1-DICHLOROETHANE^3^130^2362^^^",  // nothing before it: no section
+        "BENZENE^3^130^1114^^^",
+        "2-CHLOROPROPANE^3^129^2356^^^",     // follows Benzene into B
+        "ACETONE^3^127^1090^^^",
+    });
+    ModelFixture model;
+    QORModel* m = QORModel::sharedInstance();
+    EXPECT_EQ(m->getSections(), QStringList({ "A", "B" }));
+    EXPECT_EQ(names(m->allFilter->alphaSections.value("B")), QStringList({ "Benzene", "2-Chloropropane" }));
+    EXPECT_EQ(names(m->allFilter->alphaSections.value("A")), QStringList({ "Acetone" }));
+}
+
+TEST(MaterialsFile, PrefixIndexListsShortNamesSeveralTimes)
+{
+    FixturePack pack;
+    pack.setMaterials({ "Ab^3^127^1090^^^", "ACETONE^3^127^1090^^^" });
+    ModelFixture model;
+    const auto& index = QORModel::sharedInstance()->allFilter->alphaIndex;
+    EXPECT_EQ(index.value("").size(), 2) << "the empty key lists every material once";
+    EXPECT_EQ(names(index.value("a")), QStringList({ "Ab", "Ab", "Ab", "Acetone" }));
+    EXPECT_EQ(names(index.value("ac")), QStringList({ "Acetone" }));
+    EXPECT_EQ(names(index.value("ace")), QStringList({ "Acetone" }));
+    EXPECT_FALSE(index.contains("acet"));
+}
+
+TEST(MaterialsFile, IncidentCountsFollowTheGenericNameRules)
+{
+    FixturePack pack;
+    pack.setMaterials({
+        "FLAMMABLE LIQUID, N.O.S.^3^128^1993^^^",
+        "DIESEL FUEL^3^128^1993^^^",
+        "CORROSIVE LIQUID, N.O.S.^8^154^1760^^^",
+        "CORROSIVE LIQUID, ACIDIC, N.O.S.^8^154^1760^^^",
+        "POISONOUS LIQUID, ORGANIC, N.O.S.^6.1^153^2810^^^",
+        "ACETONE^3^127^1090^^^",
+        "NO NUMBER^3^127^^^^",
+    });
+    pack.sql("hazmat_incidents.dat",
+             "insert into incidents (un_id) values ('1993'),('1993'),('1760'),('2810'),('2810'),('2810'),('1090');");
+    ModelFixture model;
+    auto count = [](const char* name) { return byName(name)->numIncidents(); };
+    EXPECT_EQ(count("Flammable Liquid, N.O.S."), 2);
+    EXPECT_EQ(count("Diesel Fuel"), 0);
+    EXPECT_EQ(count("Corrosive Liquid, N.O.S."), 1);
+    EXPECT_EQ(count("Corrosive Liquid, Acidic, N.O.S."), 0);
+    EXPECT_EQ(count("Poisonous Liquid, Organic, N.O.S."), 3);
+    EXPECT_EQ(count("Acetone"), 1);
+    EXPECT_EQ(count("No Number"), 0);
+}
+
+TEST(MaterialsFile, ClassAndDescriptionFromTheChemistryDatabase)
+{
+    FixturePack pack;
+    pack.setMaterials({ "ACETONE^3^127^1090^^^", "ODD^1^112^0001^^^" });
+    pack.sql("npg.db", "insert into dot_classes values ('1090','3'), ('0001','1');");
+    pack.writeFile("wikipedia_descriptions_by_un_number.csv", "1090^first\n1090^second\nshort\n");
+    ModelFixture model;
+    QORModel* m = QORModel::sharedInstance();
+    EXPECT_EQ(m->classForMaterial(*byName("Acetone")), "3");
+    EXPECT_EQ(m->classDescriptionForMaterial(*byName("Acetone")).value_or(""), "Flammable Liquids");
+    EXPECT_FALSE(m->classDescriptionForMaterial(*byName("ODD")).has_value()) << "no description for a plain 1";
+    EXPECT_TRUE(m->descriptions.isEmpty()) << "descriptions load only when asked";
+    m->loadWikipediaDescriptions();
+    EXPECT_EQ(m->descriptions.value("1090"), "second");
+}
