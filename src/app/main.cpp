@@ -1,12 +1,99 @@
+// qor: the GUI. Thin: options, the single running instance, and the QML shell.
+#include "AppDelegate.h"
 #include "model/QORModel.h"
 #include "model/Resources.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
+#include <QLocalServer>
+#include <QLocalSocket>
 #include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QTimer>
 #include <QtQml/qqmlextensionplugin.h>
+#include <cstdio>
 
 Q_IMPORT_QML_PLUGIN(QORPlugin)
+
+using namespace qor;
+
+namespace {
+
+QString serverName()
+{
+    return QStringLiteral("qor-links-%1").arg(qEnvironmentVariable("USER", QStringLiteral("user")));
+}
+
+// Hands the links to an instance that is already running; true when one took them.
+bool forwardToRunningInstance(const QStringList& links)
+{
+    QLocalSocket socket;
+    socket.connectToServer(serverName());
+    if (!socket.waitForConnected(300))
+        return false;
+    socket.write(links.join(QLatin1Char('\n')).toUtf8() + '\n');
+    socket.waitForBytesWritten(1000);
+    socket.disconnectFromServer();
+    return true;
+}
+
+// Links arrive once the material list has loaded, so "chemical" can find its material.
+void openWhenLoaded(const QStringList& links)
+{
+    QORModel* model = QORModel::sharedInstance();
+    auto open = [links] {
+        for (const QString& link : links)
+            QORAppDelegate::sharedInstance()->openUrl(link);
+    };
+    if (!model->isLoading()) {
+        open();
+        return;
+    }
+    auto* conn = new QMetaObject::Connection;
+    *conn = QObject::connect(model, &QORModel::modelLoadingStateChanged, model, [open, conn] {
+        QObject::disconnect(*conn);
+        delete conn;
+        open();
+    });
+}
+
+QStringList qmlErrors;
+
+void recordQmlErrors(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (type >= QtWarningMsg && (message.contains(QLatin1String(".qml")) || (context.category && QByteArray(context.category).startsWith("qt.qml"))))
+        qmlErrors << message;
+    fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+int runSelfTest(QQmlApplicationEngine& engine, QGuiApplication& app)
+{
+    qInstallMessageHandler(recordQmlErrors);
+    QORModel::sharedInstance()->loadData();
+    engine.load(QUrl(QStringLiteral("qrc:/QOR/Main.qml")));
+    if (engine.rootObjects().isEmpty())
+        return 1;
+    QObject* root = engine.rootObjects().first();
+    bool ok = true;
+    for (const char* form : { "phone", "tablet" }) {
+        QORAppDelegate::sharedInstance()->setFormFactorOverride(QString::fromLatin1(form));
+        app.processEvents();
+        QVariant result;
+        QMetaObject::invokeMethod(root, "selfTest", Q_RETURN_ARG(QVariant, result));
+        app.processEvents();
+        if (!result.toBool()) {
+            fprintf(stderr, "self-test: a screen failed to load in the %s layout\n", form);
+            ok = false;
+        }
+    }
+    for (const QString& e : std::as_const(qmlErrors))
+        if (!e.contains(QLatin1String("image://")))  // missing artwork is not a screen failure
+            ok = false;
+    fprintf(stderr, "self-test: %s\n", ok ? "every screen loaded in both layouts" : "FAILED");
+    return ok ? 0 : 1;
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -16,21 +103,93 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(QOR_VERSION));
 
     QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Offline reference for hazardous-materials incidents."));
     parser.addHelpOption();
     parser.addVersionOption();
     QCommandLineOption resources(QStringLiteral("resources"), QStringLiteral("Read the data pack from DIR."), QStringLiteral("DIR"));
     QCommandLineOption lang(QStringLiteral("lang"), QStringLiteral("Use language CODE."), QStringLiteral("CODE"));
-    parser.addOptions({ resources, lang });
+    QCommandLineOption formFactor(QStringLiteral("form-factor"), QStringLiteral("Lay out as a phone or a tablet."), QStringLiteral("phone|tablet"));
+    QCommandLineOption selfTest(QStringLiteral("self-test"), QStringLiteral("Load every screen in both layouts and exit."));
+    QCommandLineOption screenshot(QStringLiteral("screenshot"), QStringLiteral("Save the window as a PNG after DELAY ms and exit."), QStringLiteral("FILE"));
+    QCommandLineOption screenshotDelay(QStringLiteral("screenshot-delay"), QStringLiteral("Delay before --screenshot, in ms."), QStringLiteral("DELAY"), QStringLiteral("1500"));
+    QCommandLineOption size(QStringLiteral("size"), QStringLiteral("Window size WIDTHxHEIGHT."), QStringLiteral("WxH"));
+    parser.addOptions({ resources, lang, formFactor, selfTest, screenshot, screenshotDelay, size });
+    parser.addPositionalArgument(QStringLiteral("links"), QStringLiteral("qor://search?q=TEXT or qor://chemical?un=NUMBER"), QStringLiteral("[links...]"));
     parser.process(app);
-    if (parser.isSet(resources))
-        qor::Resources::setOverride(parser.value(resources));
-    if (parser.isSet(lang))
-        qor::Preferences::setLanguageOverride(parser.value(lang));
 
-    qor::QORModel::sharedInstance();
+    if (parser.isSet(resources))
+        Resources::setOverride(parser.value(resources));
+    if (parser.isSet(lang))
+        Preferences::setLanguageOverride(parser.value(lang));
+    const QString ff = parser.value(formFactor);
+    if (!ff.isEmpty() && ff != QLatin1String("phone") && ff != QLatin1String("tablet")) {
+        fprintf(stderr, "qor: --form-factor takes phone or tablet\n");
+        return 2;
+    }
+    const QStringList links = parser.positionalArguments();
+
     QQmlApplicationEngine engine;
+    if (parser.isSet(selfTest))
+        return runSelfTest(engine, app);
+
+    // One running instance: a second launch hands its links over and exits.
+    const bool oneShot = parser.isSet(screenshot);
+    if (!oneShot && forwardToRunningInstance(links))
+        return 0;
+    QLocalServer server;
+    if (!oneShot) {
+        QLocalServer::removeServer(serverName());
+        server.setSocketOptions(QLocalServer::UserAccessOption);
+        server.listen(serverName());
+        QObject::connect(&server, &QLocalServer::newConnection, &server, [&server] {
+            while (QLocalSocket* socket = server.nextPendingConnection()) {
+                QObject::connect(socket, &QLocalSocket::readyRead, socket, [socket] {
+                    while (socket->canReadLine())
+                        openWhenLoaded({ QString::fromUtf8(socket->readLine()).trimmed() });
+                });
+                QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+            }
+        });
+    }
+
+    QORModel::sharedInstance();
+    QORAppDelegate* delegate = QORAppDelegate::sharedInstance();
+    delegate->setFormFactorOverride(ff);
+
+    // The history is written whenever the app is hidden and when it quits.
+    QObject::connect(&app, &QGuiApplication::applicationStateChanged, delegate, [delegate](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationHidden || state == Qt::ApplicationInactive)
+            delegate->saveData();
+    });
+    QObject::connect(&app, &QCoreApplication::aboutToQuit, delegate, &QORAppDelegate::saveData);
+
     QObject::connect(&engine, &QQmlApplicationEngine::objectCreationFailed, &app, [] { QCoreApplication::exit(1); },
                      Qt::QueuedConnection);
-    engine.load(QUrl(QStringLiteral("qrc:/QOR/qml/Main.qml")));
+    engine.load(QUrl(QStringLiteral("qrc:/QOR/Main.qml")));
+    if (engine.rootObjects().isEmpty())
+        return 1;
+    auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().first());
+    if (window && parser.isSet(size)) {
+        const QStringList wh = parser.value(size).split(QLatin1Char('x'));
+        if (wh.size() == 2)
+            window->resize(wh.at(0).toInt(), wh.at(1).toInt());
+    }
+    // Windows hidden to the tray or minimised count as hidden.
+    if (window)
+        QObject::connect(window, &QWindow::visibilityChanged, delegate, [delegate](QWindow::Visibility v) {
+            if (v == QWindow::Hidden || v == QWindow::Minimized)
+                delegate->saveData();
+        });
+    openWhenLoaded(links);
+
+    if (oneShot) {
+        const QString file = parser.value(screenshot);
+        QTimer::singleShot(parser.value(screenshotDelay).toInt(), &app, [window, file] {
+            const bool saved = window && window->grabWindow().save(file);
+            if (!saved)
+                fprintf(stderr, "qor: could not save %s\n", qPrintable(file));
+            QCoreApplication::exit(saved ? 0 : 1);
+        });
+    }
     return app.exec();
 }

@@ -1,41 +1,182 @@
 import QtQuick
 import QtQuick.Controls
+import QtQuick.Layouts
 import QOR
 
 ApplicationWindow {
     id: window
     width: 420
-    height: 760
+    height: 780
     visible: true
     title: qsTr("QOR")
+    color: QorTheme.pageBackground
 
-    header: ToolBar {
-        Label {
-            anchors.centerIn: parent
-            text: materials.title
-            font.bold: true
+    readonly property bool tablet: AppDelegate.tablet
+    property alias materialList: materialListPage
+
+    onWidthChanged: AppDelegate.updateForWindowSize(width, height)
+    Component.onCompleted: AppDelegate.updateForWindowSize(width, height)
+
+    // Switching layout keeps the material on screen: the tablet shows it in
+    // the detail area, the phone on top of the materials stack.
+    Connections {
+        target: AppDelegate
+        function onTabletChanged() {
+            if (AppDelegate.tablet) {
+                var top = materialsStack.currentItem
+                if (top && top.objectName === "materialDetail") {
+                    var m = top.material
+                    materialsStack.pop(null)
+                    AppDelegate.showDetailForMaterial(m)
+                }
+            } else if (AppDelegate.detailMaterial.valid) {
+                window.openMaterial(AppDelegate.detailMaterial)
+            }
+        }
+        function onMaterialRequested(material) { window.openMaterial(material) }
+        function onGuideRequested(guideId, material) { window.openGuide(guideId, material) }
+        function onSearchRequested(text) { materialListPage.startSearch(text) }
+        function onEndSearchRequested() { materialListPage.endSearch() }
+        function onScrollToMaterialRequested(material) { materialListPage.scrollToMaterial(material) }
+    }
+
+    function openMaterial(material) {
+        if (!material || !material.valid)
+            return
+        if (AppDelegate.tablet) {
+            AppDelegate.showDetailForMaterial(material)
+            return
+        }
+        AppDelegate.currentTab = AppDelegate.MaterialsTab
+        materialsStack.push(Qt.resolvedUrl("MaterialDetailPage.qml").toString(), { material: material })
+    }
+
+    function openGuide(guideId, material) {
+        guidesStack.pop(null)
+        guidesStack.push(Qt.resolvedUrl("GuidePage.qml").toString(), { guideId: guideId, material: material })
+    }
+
+    function currentStack() {
+        return tabStacks.itemAt(tabStacks.currentIndex)
+    }
+
+    // Esc goes back one screen wherever focus is.
+    Shortcut {
+        sequences: [StandardKey.Back, "Esc"]
+        onActivated: {
+            var stack = window.currentStack()
+            if (stack && stack.depth > 1)
+                stack.pop()
+            else if (AppDelegate.tablet && AppDelegate.detailMaterial.valid)
+                AppDelegate.showDetailForMaterial(null)
         }
     }
 
-    ListView {
-        id: list
+    RowLayout {
         anchors.fill: parent
-        clip: true
-        model: MaterialListModel { id: materials }
-        section.property: "section"
-        section.delegate: Rectangle {
-            required property string section
-            width: ListView.view.width
-            height: 28
-            color: "#2c3e50"
-            Label { anchors.verticalCenter: parent.verticalCenter; x: 12; text: parent.section; color: "white"; font.bold: true }
+        spacing: 0
+
+        ColumnLayout {
+            id: master
+            spacing: 0
+            Layout.fillHeight: true
+            Layout.preferredWidth: window.tablet ? 330 : window.width
+            Layout.maximumWidth: window.tablet ? 330 : window.width
+
+            StackLayout {
+                id: tabStacks
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                currentIndex: Math.min(AppDelegate.currentTab, count - 1)
+
+                StackView { id: materialsStack; initialItem: MaterialListPage { id: materialListPage } }
+                StackView { id: guidesStack; initialItem: GuideListPage {} }
+                StackView { id: historyStack; initialItem: HistoryPage {} }
+                StackView { id: referenceStack; initialItem: ReferencePage {} }
+                StackView { id: aboutStack; initialItem: AboutPage {} }
+                StackView { id: searchStack; initialItem: SearchByIdPage {} }
+            }
+
+            TabBar {
+                id: tabBar
+                Layout.fillWidth: true
+                visible: !AppDelegate.fullscreen
+                currentIndex: AppDelegate.currentTab === AppDelegate.AboutTab && window.tablet ? -1 : tabIndexFor(AppDelegate.currentTab)
+                background: Rectangle { color: QorTheme.barBackground }
+
+                function tabIndexFor(tab) { return window.tablet && tab > AppDelegate.AboutTab ? tab - 1 : tab }
+
+                Repeater {
+                    model: [
+                        { tab: AppDelegate.MaterialsTab, text: qsTr("Materials") },
+                        { tab: AppDelegate.GuidesTab, text: qsTr("Guides") },
+                        { tab: AppDelegate.HistoryTab, text: qsTr("History") },
+                        { tab: AppDelegate.ReferenceTab, text: qsTr("Reference") },
+                        { tab: AppDelegate.AboutTab, text: qsTr("About") },
+                        { tab: 5, text: qsTr("Search") }
+                    ]
+                    delegate: TabButton {
+                        required property var modelData
+                        visible: !(window.tablet && modelData.tab === AppDelegate.AboutTab)
+                        width: visible ? tabBar.width / (window.tablet ? 5 : 6) : 0
+                        text: modelData.text
+                        implicitHeight: QorTheme.touchTarget
+                        Accessible.name: modelData.text
+                        onClicked: AppDelegate.currentTab = modelData.tab
+                    }
+                }
+            }
         }
-        delegate: ItemDelegate {
-            required property string name
-            required property string unId
-            required property string guideId
-            width: ListView.view.width
-            text: name + "   UN" + unId + "   Guide " + guideId
+
+        Rectangle {
+            visible: window.tablet
+            Layout.fillHeight: true
+            Layout.preferredWidth: 1
+            color: "black"
         }
+
+        // Tablet detail area: the material chosen in any list.
+        Loader {
+            id: detailArea
+            visible: window.tablet
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            active: window.tablet
+            sourceComponent: AppDelegate.detailMaterial.valid ? detailComponent : emptyDetail
+        }
+    }
+
+    Component {
+        id: detailComponent
+        MaterialDetailPage { material: AppDelegate.detailMaterial }
+    }
+    Component {
+        id: emptyDetail
+        Rectangle {
+            color: QorTheme.pageBackground
+            Label {
+                anchors.centerIn: parent
+                text: qsTr("Choose a material")
+                color: "#cccccc"
+                font.pixelSize: 20
+            }
+        }
+    }
+
+    // Visits every screen once; the app's --self-test checks that each loads.
+    function selfTest() {
+        for (var t = 0; t < tabStacks.count; ++t)
+            AppDelegate.currentTab = t
+        var m = materialListPage.firstMaterial()
+        var pages = [["MaterialDetailPage.qml", { material: m }], ["GuidePage.qml", { guideId: m.guideId, material: m }],
+                     ["FilterPage.qml", {}]]
+        for (var i = 0; i < pages.length; ++i) {
+            var item = materialsStack.push(Qt.resolvedUrl(pages[i][0]).toString(), pages[i][1], StackView.Immediate)
+            if (!item)
+                return false
+            materialsStack.pop(StackView.Immediate)
+        }
+        AppDelegate.currentTab = AppDelegate.ReferenceTab
+        return true
     }
 }

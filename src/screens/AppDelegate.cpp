@@ -1,0 +1,144 @@
+#include "AppDelegate.h"
+
+#include "model/Device.h"
+#include "model/QORModel.h"
+
+#include <QTimer>
+
+namespace qor {
+
+QORAppDelegate* QORAppDelegate::sharedInstance()
+{
+    static QORAppDelegate* instance = new QORAppDelegate();
+    return instance;
+}
+
+QORAppDelegate* QORAppDelegate::create(QQmlEngine*, QJSEngine*)
+{
+    QORAppDelegate* d = sharedInstance();
+    QJSEngine::setObjectOwnership(d, QJSEngine::CppOwnership);
+    return d;
+}
+
+QORAppDelegate::QORAppDelegate(QObject* parent) : QObject(parent)
+{
+    m_tablet = Device::isTablet();
+}
+
+void QORAppDelegate::setCurrentTab(int tab)
+{
+    if (tab == m_currentTab)
+        return;
+    m_currentTab = tab;
+    emit currentTabChanged();
+}
+
+void QORAppDelegate::setTablet(bool tablet)
+{
+    Device::setTablet(tablet);
+    if (tablet == m_tablet)
+        return;
+    m_tablet = tablet;
+    // The tablet has no About tab; keep the user on a tab that exists.
+    if (m_tablet && m_currentTab == AboutTab)
+        setCurrentTab(ReferenceTab);
+    emit tabletChanged();
+}
+
+void QORAppDelegate::setFormFactorOverride(const QString& formFactor)
+{
+    m_formFactorOverride = formFactor;
+    if (formFactor == QLatin1String("tablet"))
+        setTablet(true);
+    else if (formFactor == QLatin1String("phone"))
+        setTablet(false);
+}
+
+void QORAppDelegate::updateForWindowSize(int width, int)
+{
+    if (!m_formFactorOverride.isEmpty())
+        return;
+    setTablet(width >= kTabletMinWidth);
+}
+
+void QORAppDelegate::showGuide(const QString& guideId)
+{
+    showGuideForMaterial(guideId, MaterialRef());
+}
+
+void QORAppDelegate::showGuideForMaterial(const QString& guideId, const MaterialRef& material)
+{
+    setCurrentTab(GuidesTab);
+    emit guideRequested(guideId, material);
+}
+
+void QORAppDelegate::showAllMaterialsWithSort(int sort)
+{
+    QORModel* model = QORModel::sharedInstance();
+    model->changeFilter(QStringLiteral("A"), sort);
+    if (model->currentFilter)
+        emit sortImageRequested(model->currentFilter->sortImages.value(sort));
+    emit endSearchRequested();
+    setCurrentTab(MaterialsTab);
+}
+
+void QORAppDelegate::showFilteredListForCategory(const QString& abbrev)
+{
+    QORModel::sharedInstance()->changeFilter(abbrev);
+    emit endSearchRequested();
+    setCurrentTab(MaterialsTab);
+}
+
+void QORAppDelegate::showDetailForMaterial(const MaterialRef& material)
+{
+    m_detailMaterial = material;
+    emit detailMaterialChanged();
+}
+
+void QORAppDelegate::toggleFullscreen()
+{
+    m_fullscreen = !m_fullscreen;
+    emit fullscreenChanged();
+}
+
+bool QORAppDelegate::openUrl(const QString& url)
+{
+    const AppLink link = parseAppLink(url);
+    switch (link.kind) {
+    case AppLink::Search:
+        QTimer::singleShot(kSearchLinkDelayMs, this, [this, text = link.text] {
+            setCurrentTab(MaterialsTab);
+            emit searchRequested(text);
+        });
+        break;
+    case AppLink::Chemical: {
+        MaterialPtr m = firstMaterialWithUnNumber(QORModel::sharedInstance()->materials, link.unId);
+        if (!m)
+            break;
+        const MaterialRef ref(m);
+        if (m_tablet)
+            showDetailForMaterial(ref);
+        else
+            emit materialRequested(ref);
+        QTimer::singleShot(kScrollLinkDelayMs, this, [this, ref] { emit scrollToMaterialRequested(ref); });
+        break;
+    }
+    case AppLink::None:
+        break;
+    }
+    return true;
+}
+
+void QORAppDelegate::saveData()
+{
+    if (QORModel* model = QORModel::sharedInstance(false))
+        model->saveData();
+}
+
+void QORAppDelegate::applicationDidReceiveMemoryWarning()
+{
+    if (QORModel* model = QORModel::sharedInstance(false))
+        model->releaseUnneededMemory();
+}
+
+} // namespace qor

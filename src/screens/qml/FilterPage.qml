@@ -1,0 +1,78 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import QOR
+
+// "Filter Materials": materials with incidents only, and the category list.
+Dialog {
+    id: dialog
+    objectName: "filterPage"
+    title: qsTr("Filter Materials")
+    modal: true
+    width: Math.min(380, parent ? parent.width - 20 : 380)
+    standardButtons: Dialog.Cancel
+    property var material  // unused; lets the shell push any screen the same way
+
+    FilterController { id: filter }
+
+    onAboutToShow: { filter.refresh(); categories.reload() }
+    onRejected: filter.cancel()
+
+    header: ToolBar {
+        background: Rectangle { color: QorTheme.pageBackground }
+        RowLayout {
+            anchors.fill: parent
+            Label {
+                Layout.fillWidth: true
+                Layout.leftMargin: 12
+                text: dialog.title
+                color: "white"
+                font.bold: true
+            }
+            Button {
+                objectName: "filterDone"
+                text: qsTr("Done")
+                implicitHeight: QorTheme.touchTarget
+                onClicked: { filter.done(); dialog.close() }
+            }
+        }
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        Switch {
+            id: incidentsSwitch
+            objectName: "incidentsSwitch"
+            Layout.fillWidth: true
+            implicitHeight: 45
+            text: qsTr("Materials with Incidents")
+            font.bold: true
+            font.pixelSize: 14
+            checked: filter.incidentsOnly
+            Accessible.name: text
+            onToggled: filter.incidentsOnly = checked
+        }
+        ListView {
+            id: categoryList
+            Layout.fillWidth: true
+            Layout.preferredHeight: contentHeight
+            interactive: false
+            model: CategoriesController { id: categories }
+            delegate: ItemDelegate {
+                required property int index
+                required property string categoryText
+                required property bool isCurrent
+                width: ListView.view.width
+                implicitHeight: QorTheme.touchTarget
+                font.bold: true
+                font.pixelSize: 14
+                Accessible.name: categoryText
+                contentItem: RowLayout {
+                    Label { Layout.fillWidth: true; text: categoryText; wrapMode: Text.Wrap; maximumLineCount: 2; font.bold: true }
+                    Label { text: isCurrent ? "✓" : ""; color: QorTheme.tint; font.pixelSize: 18 }
+                }
+                onClicked: categories.select(index)
+            }
+        }
+    }
+}

@@ -1,0 +1,220 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import QOR
+
+// The materials of the current category by section, with search as you type.
+Page {
+    id: page
+    objectName: "materialList"
+    property alias controller: list
+    property alias searchField: searchField
+
+    background: Rectangle { color: QorTheme.pageBackground }
+
+    function startSearch(text) {
+        searchField.forceActiveFocus()
+        searchField.text = text
+        list.searchNow()
+        searchField.focus = false
+    }
+    function endSearch() {
+        searchField.text = ""
+        list.doneSearch()
+    }
+    function scrollToMaterial(material) {
+        var row = list.rowForMaterial(material)
+        if (row >= 0)
+            listView.positionViewAtIndex(row, ListView.Beginning)
+    }
+    function firstMaterial() { return list.materialAt(0) }
+    function openRow(row) {
+        var m = list.materialAt(row)
+        if (!m.valid)
+            return
+        if (AppDelegate.tablet)
+            list.selectedRow = row
+        Qt.inputMethod.hide()
+        window.openMaterial(m)
+    }
+
+    MaterialListController {
+        id: list
+        onScrollToTop: listView.positionViewAtBeginning()
+    }
+
+    // Typing anywhere on the list goes into the search field.
+    Keys.onPressed: function(event) {
+        if (event.text.length === 1 && /[0-9A-Za-z ]/.test(event.text) && !searchField.activeFocus) {
+            searchField.forceActiveFocus()
+            searchField.text += event.text
+            event.accepted = true
+        }
+    }
+    Shortcut { sequence: StandardKey.Find; onActivated: searchField.forceActiveFocus() }
+
+    header: ToolBar {
+        background: Rectangle { color: QorTheme.barBackground }
+        RowLayout {
+            anchors.fill: parent
+            spacing: 4
+            ToolButton {
+                id: categoryButton
+                text: "▾"
+                font.pixelSize: 20
+                implicitWidth: QorTheme.touchTarget
+                implicitHeight: QorTheme.touchTarget
+                Accessible.name: qsTr("Choose category")
+                onClicked: categoryMenu.open()
+                Menu {
+                    id: categoryMenu
+                    y: categoryButton.height
+                    Repeater {
+                        model: list.categories
+                        delegate: MenuItem {
+                            required property var modelData
+                            text: modelData.name
+                            checkable: true
+                            checked: list.categoryAbbrev === modelData.abbrev
+                            onTriggered: list.chooseCategory(modelData.abbrev)
+                        }
+                    }
+                }
+            }
+            Label {
+                id: titleLabel
+                objectName: "listTitle"
+                Layout.fillWidth: true
+                text: list.title
+                color: "white"
+                font.bold: true
+                font.pixelSize: 14
+                elide: Text.ElideRight
+            }
+            ToolButton {
+                implicitWidth: QorTheme.touchTarget
+                implicitHeight: QorTheme.touchTarget
+                Accessible.name: qsTr("Filter materials")
+                text: "⚲"
+                font.pixelSize: 20
+                onClicked: filterDialog.open()
+            }
+            ToolButton {
+                id: sortButton
+                objectName: "sortButton"
+                implicitWidth: QorTheme.touchTarget
+                implicitHeight: QorTheme.touchTarget
+                Accessible.name: qsTr("Change sort order")
+                icon.source: QorTheme.pdf(list.sortImage, 33, 33)
+                icon.color: "transparent"
+                icon.width: 33
+                icon.height: 33
+                onClicked: list.nextSort()
+            }
+        }
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        Label {
+            Layout.fillWidth: true
+            text: QorTheme.sampleNotice
+            horizontalAlignment: Text.AlignHCenter
+            color: "#ffb045"
+            font.pixelSize: 11
+            background: Rectangle { color: "#1c2630" }
+        }
+
+        TextField {
+            id: searchField
+            objectName: "searchField"
+            Layout.fillWidth: true
+            Layout.margins: 4
+            implicitHeight: QorTheme.touchTarget
+            placeholderText: list.placeholderText
+            inputMethodHints: Qt.ImhNoPredictiveText
+            Accessible.name: list.placeholderText
+            onTextEdited: list.searchText = text
+            onTextChanged: if (text === "") list.searchText = ""
+            Keys.onReturnPressed: page.openRow(0)
+            Keys.onEnterPressed: page.openRow(0)
+            Keys.onEscapePressed: page.endSearch()
+            Keys.onDownPressed: { listView.forceActiveFocus(); listView.currentIndex = 0 }
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            spacing: 0
+
+            ListView {
+                id: listView
+                objectName: "materialListView"
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                clip: true
+                model: list
+                keyNavigationEnabled: true
+                highlightMoveDuration: 0
+                section.property: "sectionKey"
+                section.delegate: Rectangle {
+                    required property string section
+                    width: ListView.view.width
+                    height: sectionLabel.text === "" ? 0 : 26
+                    color: QorTheme.sectionBackground
+                    Label {
+                        id: sectionLabel
+                        x: 10
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: list.searching ? "" : list.sectionTitle(parent.section)
+                        color: "white"
+                        font.bold: true
+                    }
+                }
+                delegate: MaterialRow {
+                    width: ListView.view.width
+                    highlighted: ListView.isCurrentItem || (AppDelegate.tablet && index === list.selectedRow)
+                    onClicked: page.openRow(index)
+                    Keys.onReturnPressed: page.openRow(index)
+                }
+                Keys.onReturnPressed: page.openRow(currentIndex)
+                ScrollBar.vertical: ScrollBar {}
+            }
+
+            // Side index: touching a key scrolls to its section.
+            Column {
+                Layout.alignment: Qt.AlignTop
+                visible: list.sectionIndex.length > 0
+                Repeater {
+                    model: list.sectionIndex
+                    delegate: Label {
+                        required property string modelData
+                        width: 36
+                        height: Math.max(12, Math.min(22, (page.height - 160) / Math.max(1, list.sectionIndex.length)))
+                        text: modelData.trim().substring(0, 4)
+                        font.pixelSize: 10
+                        color: QorTheme.tint
+                        horizontalAlignment: Text.AlignHCenter
+                        MouseArea {
+                            anchors.fill: parent
+                            onClicked: {
+                                var row = list.rowForSectionKey(parent.modelData)
+                                if (row < 0)
+                                    listView.positionViewAtBeginning()
+                                else
+                                    listView.positionViewAtIndex(row, ListView.Beginning)
+                            }
+                        }
+                    }
+                }
+            }
+        }
+    }
+
+    FilterPage {
+        id: filterDialog
+        anchors.centerIn: Overlay.overlay
+    }
+}
