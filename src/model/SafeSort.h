@@ -2,6 +2,8 @@
 // A stable merge sort that stays in bounds whatever the comparator answers.
 // The search ranking's order is not transitive in every case, and the
 // standard sorts may read out of range with such a comparator.
+#include <algorithm>
+#include <cstddef>
 #include <vector>
 
 namespace qor {

@@ -1,0 +1,177 @@
+// The material list controller: search paths, ranking, sections and loading state.
+#include "FixturePack.h"
+
+#include "MaterialListController.h"
+#include "model/MaterialSearch.h"
+#include "model/QORModel.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+using namespace qor;
+using qor::test::FixturePack;
+using qor::test::ModelFixture;
+
+namespace {
+
+QStringList names(const MaterialList& list)
+{
+    QStringList out;
+    for (const auto& m : list)
+        out << m->name;
+    return out;
+}
+
+struct ListControllerTest : ::testing::Test {
+    FixturePack pack;
+    std::unique_ptr<ModelFixture> fixture;
+    QORModel* model = nullptr;
+    void SetUp() override
+    {
+        pack.setMaterials({
+            "ACETONE^3^127^1090^^^",
+            "AC^6.1^117^1051^X^^Z",
+            "ACETAL^3^127^1088^^^",
+            "CHLORINE^2.3^124^1017^X^^",
+            "AMMONIA, ANHYDROUS^2.3^125^1005^X^^",
+            "ZIRCONIUM SCRAP^4.2^135^1932^^^",
+            "XENON^2.2^120^2036^^^",
+            "BENZENE^3^130^1114^^^",
+            "1,1-DIFLUOROETHANE^2.1^115^1030^^^",
+        });
+        pack.setGuides({ "115^Gases - flammable", "124^Gases - toxic and/or corrosive - oxidizing", "127^Flammable liquids" });
+        fixture = std::make_unique<ModelFixture>();
+        model = QORModel::sharedInstance();
+        model->loadGuideList();
+    }
+};
+
+} // namespace
+
+TEST_F(ListControllerTest, ShortWordsUseThePrefixIndexNumbersScan)
+{
+    MaterialSearch search;
+    // "AC" is lower-cased and found through the prefix index "ac".
+    ASSERT_TRUE(search.search("AC", model->allFilter.get(), model->materials, SortAlpha));
+    EXPECT_EQ(search.lastSearchText(), "ac");
+    // The two-letter "AC" is indexed under "a", not "ac"; 1090 (weight 254) outranks 1088 (171).
+    EXPECT_EQ(names(search.results()), QStringList({ "Acetone", "Acetal" }));
+    EXPECT_FALSE(search.search("ac", model->allFilter.get(), model->materials, SortAlpha)) << "same text: results stand";
+
+    // "1" starts with a number: no prefix index; the scan matches UN ids and names.
+    ASSERT_TRUE(search.search("1", model->allFilter.get(), model->materials, SortAlpha));
+    EXPECT_EQ(search.results().size(), 8) << "every id but 2036 starts with 1, and one name contains 1";
+    EXPECT_EQ(search.results().first()->unId, "1005") << "heaviest first";
+
+    // In the UN-number sort names are not searched.
+    ASSERT_TRUE(search.search("10", model->allFilter.get(), model->materials, SortUnId));
+    for (const auto& m : search.results())
+        EXPECT_TRUE(m->unId.startsWith("10")) << m->name.toStdString();
+    EXPECT_EQ(search.results().size(), 6);
+    ASSERT_TRUE(search.search("DIFLUORO", model->allFilter.get(), model->materials, SortUnId));
+    EXPECT_TRUE(search.results().isEmpty());
+    search.reset();
+    ASSERT_TRUE(search.search("DIFLUORO", model->allFilter.get(), model->materials, SortAlpha));
+    EXPECT_EQ(names(search.results()), QStringList({ "1,1-Difluoroethane" })) << "4+ characters keep their case";
+}
+
+TEST_F(ListControllerTest, ScanStopsAfter151Matches)
+{
+    QStringList lines;
+    for (int i = 0; i < 400; ++i)
+        lines << QStringLiteral("SAMPLE %1^3^127^%2^^^").arg(i).arg(3000 + i);
+    pack.setMaterials(lines);
+    ModelFixture reload;
+    MaterialSearch search;
+    search.search("sample", nullptr, QORModel::sharedInstance()->materials, SortAlpha);
+    EXPECT_EQ(search.results().size(), 151);
+}
+
+TEST_F(ListControllerTest, RankingWeightsViewedMaterialsAndNameOrder)
+{
+    auto find = [&](const char* unId) {
+        for (const auto& m : model->materials)
+            if (m->unId == unId)
+                return m;
+        return MaterialPtr();
+    };
+    const MaterialPtr ammonia = find("1005"), chlorine = find("1017"), xenon = find("2036"), zirconium = find("1932"),
+                      benzene = find("1114");
+    EXPECT_EQ(MaterialSearch::rankingWeights().size(), 234);
+
+    MaterialSearch plain;
+    MaterialList list = { chlorine, zirconium, ammonia, xenon };
+    plain.rank(list);
+    EXPECT_EQ(names(list), QStringList({ "Ammonia, Anhydrous", "Chlorine", "Xenon", "Zirconium Scrap" }));
+    list = { zirconium, xenon };
+    plain.rank(list);
+    EXPECT_EQ(names(list), QStringList({ "Xenon", "Zirconium Scrap" })) << "outside the table: name order";
+
+    // A viewed material in the table beats every unviewed one; one outside the
+    // table gains nothing against another outside it.
+    MaterialSearch viewed([&](const Material& m) { return m.unId == "1114" || m.unId == "2036"; });
+    list = { ammonia, chlorine, benzene };
+    viewed.rank(list);
+    EXPECT_EQ(names(list), QStringList({ "Benzene", "Ammonia, Anhydrous", "Chlorine" }));
+    list = { zirconium, xenon };
+    viewed.rank(list);
+    EXPECT_EQ(names(list), QStringList({ "Xenon", "Zirconium Scrap" }));
+    EXPECT_EQ(viewed.compare(*xenon, *zirconium), -1);
+    EXPECT_EQ(viewed.compare(*ammonia, *chlorine), -1);
+    EXPECT_EQ(viewed.compare(*chlorine, *ammonia), 1);
+}
+
+TEST_F(ListControllerTest, ControllerDebouncesAndTitlesResults)
+{
+    MaterialListController list;
+    list.setSearchText("A");
+    list.setSearchText("AC");
+    EXPECT_TRUE(list.searching());
+    EXPECT_TRUE(list.lastSearchText().isEmpty()) << "nothing runs before the delay";
+    QSignalSpy spy(&list, &MaterialListController::listChanged);
+    ASSERT_TRUE(spy.wait(1000));
+    EXPECT_EQ(list.lastSearchText(), "ac") << "one search for the burst";
+    EXPECT_EQ(list.title(), "2 search results");
+    EXPECT_EQ(list.rowCount(), 2);
+    EXPECT_TRUE(list.sectionIndex().isEmpty()) << "no side index while searching";
+
+    list.doneSearch();
+    EXPECT_FALSE(list.searching());
+    EXPECT_EQ(list.title(), "Materials");
+    EXPECT_EQ(list.rowCount(), 9) << "the name starting with a digit follows Benzene into B";
+}
+
+TEST_F(ListControllerTest, SectionsTitlesAndScrollTargets)
+{
+    MaterialListController list;
+    EXPECT_EQ(list.sectionIndex(), QStringList({ "A", "B", "C", "X", "Z" }));
+    EXPECT_EQ(list.rowForSectionKey("A"), -1) << "A scrolls to the very top";
+    EXPECT_EQ(list.rowForSectionKey("C"), 6);
+    const MaterialRef chlorine = list.materialAt(6);
+    EXPECT_EQ(chlorine.name(), "Chlorine");
+    EXPECT_EQ(list.rowForMaterial(chlorine), 6);
+
+    model->changeFilter("A", SortGuide);
+    EXPECT_EQ(list.sectionTitle("124").toStdString(), "Guide 124 - Gases - Toxic And/Or Corrosive - Oxidizing");
+    EXPECT_EQ(list.sectionTitle("135"), "135") << "a guide missing from the list shows its number";
+    EXPECT_EQ(list.rowForMaterial(chlorine), -1) << "only the alphabetical sort scrolls to a material";
+
+    model->changeFilter("A", SortIncidents);
+    EXPECT_TRUE(list.sectionIndex().isEmpty());
+    EXPECT_EQ(list.sectionTitle("anything"), "");
+    EXPECT_EQ(list.data(list.index(0), MaterialListController::IncidentsTextRole).toString(), "0 Incidents");
+}
+
+TEST(ListControllerLoading, PlaceholderSectionsWhileLoading)
+{
+    FixturePack pack;
+    ModelFixture fixture(false);
+    MaterialListController list;
+    EXPECT_TRUE(list.loading());
+    const int placeholder = int(QORModel::sharedInstance()->getLoadingMaterials().size());
+    EXPECT_EQ(list.rowCount(), 26 * placeholder) << "26 sections of the placeholder list";
+    EXPECT_EQ(list.sectionTitle("A7"), "A");
+    EXPECT_EQ(list.sectionIndex().size(), 25);
+    EXPECT_FALSE(list.sectionIndex().contains("J"));
+    EXPECT_FALSE(list.data(list.index(0), MaterialListController::EnabledRole).toBool());
+}

@@ -1,0 +1,132 @@
+// Links into the app, the UN-number search and the filter screens.
+#include "FixturePack.h"
+
+#include "AppDelegate.h"
+#include "AppLinks.h"
+#include "FilterController.h"
+#include "SearchByIdController.h"
+#include "model/QORModel.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+using namespace qor;
+using qor::test::FixturePack;
+using qor::test::ModelFixture;
+
+namespace {
+struct ShellTest : ::testing::Test {
+    FixturePack pack;
+    std::unique_ptr<ModelFixture> fixture;
+    QORModel* model = nullptr;
+    void SetUp() override
+    {
+        pack.setMaterials({ "AMMONIA SOLUTION^8^154^1005^^^", "AMMONIA, ANHYDROUS^2.3^125^1005^X^^",
+                            "CHLORINE^2.3^124^1017^X^^", "ACETONE^3^127^1090^^^" });
+        pack.sql("hazmat_incidents.dat", "insert into incidents (un_id) values ('1017');");
+        fixture = std::make_unique<ModelFixture>();
+        model = QORModel::sharedInstance();
+    }
+};
+} // namespace
+
+TEST(AppLinks, OnlyWellFormedLinksAreFollowed)
+{
+    EXPECT_EQ(parseAppLink("qor://chemical?un=1005").unId, 1005);
+    EXPECT_EQ(parseAppLink("qor://CHEMICAL?un=9998").unId, 9998);
+    for (const char* ignored : { "qor://chemical?un=0", "qor://chemical?un=9999", "qor://chemical?un=abc",
+                                 "qor://chemical?un", "qor://chemical?un=1=2", "qor://chemical", "qor://other?x=1005" })
+        EXPECT_EQ(parseAppLink(QString::fromLatin1(ignored)).kind, AppLink::None) << ignored;
+
+    const AppLink search = parseAppLink("qor://search?q=sulfuric%20acid");
+    EXPECT_EQ(search.kind, AppLink::Search);
+    EXPECT_EQ(search.text, "sulfuric acid");
+    EXPECT_EQ(parseAppLink("qor://search?sulfuric").kind, AppLink::None) << "no =";
+    EXPECT_EQ(parseAppLink("qor://search?q=a=b").kind, AppLink::None) << "two =";
+    EXPECT_EQ(parseAppLink("qor://search?q=a%3Db").kind, AppLink::None) << "decoded before splitting";
+}
+
+TEST_F(ShellTest, ChemicalLinkOpensTheFirstMaterialThenScrolls)
+{
+    QORAppDelegate* app = QORAppDelegate::sharedInstance();
+    app->setFormFactorOverride("phone");
+    QSignalSpy opened(app, &QORAppDelegate::materialRequested);
+    QSignalSpy scrolled(app, &QORAppDelegate::scrollToMaterialRequested);
+    EXPECT_TRUE(app->openUrl("qor://chemical?un=1005"));
+    ASSERT_EQ(opened.count(), 1);
+    EXPECT_EQ(opened.at(0).at(0).value<MaterialRef>().name(), "Ammonia Solution");
+    EXPECT_TRUE(scrolled.isEmpty());
+    EXPECT_TRUE(scrolled.wait(2000));
+
+    EXPECT_TRUE(app->openUrl("qor://chemical?un=4444")) << "unknown numbers are handled by doing nothing";
+    EXPECT_EQ(opened.count(), 1);
+
+    app->setFormFactorOverride("tablet");
+    app->openUrl("qor://chemical?un=1017");
+    EXPECT_EQ(app->detailMaterial().name(), "Chlorine") << "the tablet shows it in the detail area";
+    app->setFormFactorOverride("phone");
+}
+
+TEST_F(ShellTest, TabsAndShortcuts)
+{
+    QORAppDelegate* app = QORAppDelegate::sharedInstance();
+    app->showAllMaterialsWithSort(SortUnId);
+    EXPECT_EQ(app->currentTab(), QORAppDelegate::MaterialsTab);
+    EXPECT_EQ(model->currentFilter->sortType, SortUnId);
+    app->showFilteredListForCategory("T");
+    EXPECT_EQ(model->currentFilter, model->tihFilter);
+    EXPECT_EQ(model->currentFilter->sortType, SortUnId) << "the sort carries over";
+
+    const bool before = app->fullscreen();
+    app->toggleFullscreen();
+    app->toggleFullscreen();
+    EXPECT_EQ(app->fullscreen(), before);
+
+    app->setFormFactorOverride(QString());
+    app->updateForWindowSize(1200, 800);
+    EXPECT_TRUE(app->tablet());
+    app->updateForWindowSize(400, 800);
+    EXPECT_FALSE(app->tablet());
+}
+
+TEST_F(ShellTest, UnNumberSearchTakesFourDigits)
+{
+    SearchByIdController search;
+    search.setText("100");
+    EXPECT_FALSE(search.material().valid());
+    search.setText("10052");
+    EXPECT_EQ(search.text(), "1005") << "a fifth digit leaves the first four";
+    EXPECT_EQ(search.name(), "Ammonia Solution") << "the first material with the number";
+    EXPECT_EQ(search.searchCount(), 1);
+    search.setText("1005");
+    EXPECT_EQ(search.searchCount(), 1) << "the same four digits do not search again";
+    search.setText("");
+    EXPECT_FALSE(search.material().valid());
+    EXPECT_FALSE(search.scrollEnabled());
+    search.setText("9999");
+    EXPECT_FALSE(search.material().valid());
+    EXPECT_EQ(search.name(), "");
+}
+
+TEST_F(ShellTest, FilterScreenSwitchDoneAndCategories)
+{
+    FilterController filter;
+    QSignalSpy spy(model, &QORModel::filterChanged);
+    filter.setIncidentsOnly(true);
+    EXPECT_EQ(model->currentFilter->sortType, SortIncidents);
+    filter.done();
+    ASSERT_EQ(spy.count(), 1);
+    EXPECT_EQ(spy.at(0).at(0).value<Filter*>(), model->currentFilter.get());
+    EXPECT_EQ(model->getNumMaterials(), 1) << "rebuilt with incidents only";
+    filter.cancel();
+    EXPECT_EQ(spy.at(1).at(0).value<Filter*>(), nullptr);
+
+    CategoriesController categories;
+    EXPECT_EQ(categories.data(categories.index(0), CategoriesController::TextRole).toString(), "All Materials (1 found)");
+    EXPECT_TRUE(categories.data(categories.index(0), CategoriesController::CheckedRole).toBool());
+    EXPECT_EQ(categories.data(categories.index(1), CategoriesController::TextRole).toString(), "Meth Lab");
+    Filter* before = model->currentFilter.get();
+    categories.select(1);
+    EXPECT_EQ(model->currentFilter.get(), before) << "the same filter object, with another letter";
+    EXPECT_EQ(model->currentFilter->categoryAbbrev, "M");
+}
