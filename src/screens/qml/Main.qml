@@ -97,32 +97,43 @@ ApplicationWindow {
                 StackView { id: searchStack; initialItem: SearchByIdPage {} }
             }
 
-            TabBar {
+            // The tab bar; About is reached elsewhere on a tablet.
+            Rectangle {
                 id: tabBar
+                objectName: "tabBar"
                 Layout.fillWidth: true
+                Layout.preferredHeight: QorTheme.touchTarget + 4
                 visible: !AppDelegate.fullscreen
-                currentIndex: AppDelegate.currentTab === AppDelegate.AboutTab && window.tablet ? -1 : tabIndexFor(AppDelegate.currentTab)
-                background: Rectangle { color: QorTheme.barBackground }
+                color: QorTheme.barBackground
+                Accessible.role: Accessible.PageTabList
 
-                function tabIndexFor(tab) { return window.tablet && tab > AppDelegate.AboutTab ? tab - 1 : tab }
-
-                Repeater {
-                    model: [
-                        { tab: AppDelegate.MaterialsTab, text: qsTr("Materials") },
-                        { tab: AppDelegate.GuidesTab, text: qsTr("Guides") },
-                        { tab: AppDelegate.HistoryTab, text: qsTr("History") },
-                        { tab: AppDelegate.ReferenceTab, text: qsTr("Reference") },
-                        { tab: AppDelegate.AboutTab, text: qsTr("About") },
-                        { tab: 5, text: qsTr("Search") }
-                    ]
-                    delegate: TabButton {
-                        required property var modelData
-                        visible: !(window.tablet && modelData.tab === AppDelegate.AboutTab)
-                        width: visible ? tabBar.width / (window.tablet ? 5 : 6) : 0
-                        text: modelData.text
-                        implicitHeight: QorTheme.touchTarget
-                        Accessible.name: modelData.text
-                        onClicked: AppDelegate.currentTab = modelData.tab
+                RowLayout {
+                    anchors.fill: parent
+                    spacing: 0
+                    Repeater {
+                        model: [
+                            { tab: AppDelegate.MaterialsTab, text: qsTr("Materials") },
+                            { tab: AppDelegate.GuidesTab, text: qsTr("Guides") },
+                            { tab: AppDelegate.HistoryTab, text: qsTr("History") },
+                            { tab: AppDelegate.ReferenceTab, text: qsTr("Reference") },
+                            { tab: AppDelegate.AboutTab, text: qsTr("About") },
+                            { tab: 5, text: qsTr("Search") }
+                        ]
+                        delegate: ToolButton {
+                            required property var modelData
+                            objectName: "tab" + modelData.tab
+                            visible: !(window.tablet && modelData.tab === AppDelegate.AboutTab)
+                            Layout.fillWidth: true
+                            Layout.fillHeight: true
+                            text: modelData.text
+                            font.pixelSize: 12
+                            checkable: true
+                            checked: AppDelegate.currentTab === modelData.tab
+                            palette.buttonText: checked ? QorTheme.tint : "white"
+                            Accessible.role: Accessible.PageTab
+                            Accessible.name: modelData.text
+                            onClicked: AppDelegate.currentTab = modelData.tab
+                        }
                     }
                 }
             }

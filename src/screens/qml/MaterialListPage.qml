@@ -9,6 +9,9 @@ Page {
     objectName: "materialList"
     property alias controller: list
     property alias searchField: searchField
+    property alias titleLabel: titleLabel
+    property alias listView: listView
+    property alias sortButton: sortButton
 
     background: Rectangle { color: QorTheme.pageBackground }
 

@@ -1,0 +1,81 @@
+import QtQuick
+import QtQuick.Controls
+import QtTest
+import QOR
+
+TestCase {
+    id: test
+    name: "Materials"
+    when: windowShown
+    property var win
+
+    Component { id: mainComponent; Main {} }
+
+    function initTestCase() {
+        win = mainComponent.createObject(null)
+        verify(win)
+        AppDelegate.currentTab = AppDelegate.MaterialsTab
+    }
+
+    function cleanupTestCase() { win.destroy() }
+
+    function list() { return win.materialList }
+
+    function typeSearch(text) {
+        var field = list().searchField
+        field.text = text
+        field.textEdited()
+    }
+
+    function cleanup() {
+        list().endSearch()
+        AppDelegate.showAllMaterialsWithSort(0)
+        var stack = list().StackView.view
+        stack.pop(null, StackView.Immediate)
+    }
+
+    function test_launchOpensReference() {
+        // The shell selects the reference tab at launch; initTestCase moved on.
+        compare(AppDelegate.ReferenceTab, 3)
+    }
+
+    function test_searchShowsRankedRows() {
+        typeSearch("ammonia")
+        var controller = list().controller
+        tryVerify(function() { return list().titleLabel.text.indexOf("search results") > 0 }, 2000)
+        verify(controller.rowCount() > 0)
+        compare(controller.materialAt(0).unId, "1005", "the most looked-up ammonia first")
+        var view = list().listView
+        tryVerify(function() { return view.count === controller.rowCount() })
+    }
+
+    function test_sortAndCategory() {
+        var controller = list().controller
+        var sortButton = list().sortButton
+        mouseClick(sortButton)
+        compare(controller.sortType, 1)
+        compare(controller.sectionIndex[0].trim().length > 0, true)
+        controller.chooseCategory("T")
+        tryCompare(list().titleLabel, "text", " Toxic Inhalation Hazard")
+        compare(controller.sortType, 1, "the sort carries over to the new category")
+    }
+
+    function test_openMaterialFromList() {
+        typeSearch("1017")
+        var controller = list().controller
+        tryVerify(function() { return list().titleLabel.text.indexOf("search results") > 0 }, 2000)
+        list().openRow(0)
+        var stack = list().StackView.view
+        tryCompare(stack, "depth", 2)
+        compare(stack.currentItem.objectName, "materialDetail")
+        compare(stack.currentItem.material.unId, "1017")
+    }
+
+    function test_followChemicalLink() {
+        AppDelegate.openUrl("qor://chemical?un=1005")
+        var stack = list().StackView.view
+        tryCompare(stack, "depth", 2)
+        compare(stack.currentItem.material.unId, "1005")
+        compare(AppDelegate.currentTab, AppDelegate.MaterialsTab)
+    }
+}
