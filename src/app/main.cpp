@@ -113,7 +113,13 @@ int main(int argc, char** argv)
     QCommandLineOption screenshot(QStringLiteral("screenshot"), QStringLiteral("Save the window as a PNG after DELAY ms and exit."), QStringLiteral("FILE"));
     QCommandLineOption screenshotDelay(QStringLiteral("screenshot-delay"), QStringLiteral("Delay before --screenshot, in ms."), QStringLiteral("DELAY"), QStringLiteral("1500"));
     QCommandLineOption size(QStringLiteral("size"), QStringLiteral("Window size WIDTHxHEIGHT."), QStringLiteral("WxH"));
-    parser.addOptions({ resources, lang, formFactor, selfTest, screenshot, screenshotDelay, size });
+    // For the start-up benchmark: quit once the first frame is on screen,
+    // optionally showing an empty window instead of the app.
+    QCommandLineOption firstFrame(QStringLiteral("exit-after-first-frame"), QStringLiteral("Quit after the first frame."));
+    QCommandLineOption emptyWindow(QStringLiteral("empty-window"), QStringLiteral("Show an empty window (start-up baseline)."));
+    firstFrame.setFlags(QCommandLineOption::HiddenFromHelp);
+    emptyWindow.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOptions({ resources, lang, formFactor, selfTest, screenshot, screenshotDelay, size, firstFrame, emptyWindow });
     parser.addPositionalArgument(QStringLiteral("links"), QStringLiteral("qor://search?q=TEXT or qor://chemical?un=NUMBER"), QStringLiteral("[links...]"));
     parser.process(app);
 
@@ -131,6 +137,13 @@ int main(int argc, char** argv)
     QQmlApplicationEngine engine;
     if (parser.isSet(selfTest))
         return runSelfTest(engine, app);
+    if (parser.isSet(emptyWindow)) {
+        QQuickWindow empty;
+        empty.resize(420, 780);
+        QObject::connect(&empty, &QQuickWindow::frameSwapped, &app, &QCoreApplication::quit, Qt::QueuedConnection);
+        empty.show();
+        return app.exec();
+    }
 
     // One running instance: a second launch hands its links over and exits.
     const bool oneShot = parser.isSet(screenshot);
@@ -181,6 +194,8 @@ int main(int argc, char** argv)
                 delegate->saveData();
         });
     openWhenLoaded(links);
+    if (window && parser.isSet(firstFrame))
+        QObject::connect(window, &QQuickWindow::frameSwapped, &app, &QCoreApplication::quit, Qt::QueuedConnection);
 
     if (oneShot) {
         const QString file = parser.value(screenshot);

@@ -64,6 +64,11 @@ MaterialList findMaterials(QORModel& model, const QString& arg)
     return out;
 }
 
+std::function<bool(const Material&)> viewedPredicate()
+{
+    return {};
+}
+
 QORModel& loadedModel()
 {
     QORModel* model = QORModel::sharedInstance();

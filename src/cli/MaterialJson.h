@@ -2,6 +2,7 @@
 #include "model/Material.h"
 
 #include <QJsonObject>
+#include <functional>
 
 namespace qor {
 class QORModel;
@@ -16,6 +17,8 @@ QJsonObject materialJson(QORModel& model, Material& material);
 QJsonObject stringMapJson(const StringMap& map);
 // Materials whose UN id equals arg, or else whose name equals it ignoring case.
 MaterialList findMaterials(QORModel& model, const QString& arg);
+// Whether the user has viewed a material (from the history in --data-dir).
+std::function<bool(const Material&)> viewedPredicate();
 // Creates the shared model and loads everything synchronously.
 QORModel& loadedModel();
 

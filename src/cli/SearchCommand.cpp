@@ -1,0 +1,56 @@
+// qor-cli search: the list screen's search and ranking, for scripts.
+#include "Cli.h"
+#include "MaterialJson.h"
+
+#include "model/MaterialSearch.h"
+#include "model/QORModel.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace qor::cli {
+
+namespace {
+
+int searchCommand(Context& ctx, QStringList args)
+{
+    QString sortText = QStringLiteral("0"), category = QStringLiteral("A");
+    if (!takeOption(args, QStringLiteral("--sort"), &sortText))
+        return ctx.usage(QStringLiteral("--sort needs a number from 0 to 3"));
+    if (!takeOption(args, QStringLiteral("--category"), &category))
+        return ctx.usage(QStringLiteral("--category needs one of A T U M W P"));
+    bool ok = false;
+    const int sort = sortText.toInt(&ok);
+    if (!ok || sort < 0 || sort > 3)
+        return ctx.usage(QStringLiteral("--sort needs a number from 0 to 3"));
+    if (args.size() != 1 || args.first().isEmpty())
+        return ctx.usage(QStringLiteral("search needs exactly one non-empty TEXT"));
+
+    QORModel& model = loadedModel();
+    if (!model.filters.contains(category))
+        return ctx.usage(QStringLiteral("unknown category '%1' (use one of A T U M W P)").arg(category));
+    model.changeFilter(category, sort);
+
+    MaterialSearch search(viewedPredicate());
+    search.search(args.first(), model.currentFilter.get(), model.materials, sort);
+    const MaterialList& results = search.results();
+    if (ctx.json) {
+        QJsonArray array;
+        for (const auto& m : results)
+            array.append(QJsonObject{ { QStringLiteral("name"), m->name }, { QStringLiteral("unId"), m->unId },
+                                      { QStringLiteral("guideId"), m->guideId } });
+        ctx.printJson(array);
+    } else {
+        ctx.out << results.size() << " search results\n";
+        for (const auto& m : results)
+            ctx.out << "  " << m->unId.leftJustified(5) << " " << m->name << "  (guide " << m->guideId << ")\n";
+        ctx.out.flush();
+    }
+    return results.isEmpty() ? NothingFound : Found;
+}
+
+const bool registered = registerCommand(
+    { QStringLiteral("search"), QStringLiteral("search TEXT [--sort 0-3] [--category X]   ranked as the list screen ranks them"), searchCommand });
+
+} // namespace
+} // namespace qor::cli
