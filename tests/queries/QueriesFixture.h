@@ -23,9 +23,7 @@ struct QueriesTest : ::testing::Test {
     static Material material(const QString& unId, const QString& name, const QString& placardId = QString())
     {
         Material m;
-        m.unId = unId;
-        m.name = name;
-        m.placardId = placardId;
+        std::tie(m.unId, m.name, m.placardId) = std::tie(unId, name, placardId);
         return m;
     }
 };
