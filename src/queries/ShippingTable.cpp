@@ -76,75 +76,72 @@ QString QORModel::placardNameForMaterial(Material& material)
 
 QList<StringMap> QORModel::getHmtEntriesForMaterial(Material& material)
 {
-    if (material.hmtEntries)
-        return *material.hmtEntries;
-    // Only fills the placard cache; the entries list every class.
-    placardFor(*this, material);
+    return cachedLookup(material.hmtEntries, [&] {
+        // Only fills the placard cache; the entries list every class.
+        placardFor(*this, material);
 
-    const QString columns = QStringLiteral(" name, packing_group, label_codes, special_provisions, non_bulk, bulk, "
-                                           "pass_air_rail, cargo_air, vessel_loc, symbols ");
-    Statement st(m_npgDb, QStringLiteral("select distinct %1 from hmt where un_id = %2 group by %1 order by name, packing_group")
-                              .arg(columns, material.unId));
-    QList<StringMap> entries;
-    while (st.step()) {
-        StringMap entry;
-        entry.insert(QStringLiteral("name"), st.text(0));
-        insertPackingGroup(*this, entry, st.text(1));
-        entry.insert(QStringLiteral("labelCodes"), st.text(2));
-        entry.insert(QStringLiteral("specialProvisions"), st.text(3));
-        const QString nonBulk = st.text(4);
-        entry.insert(QStringLiteral("nonBulkTitle"), sectionTitle(*this, nonBulk));
-        entry.insert(QStringLiteral("nonBulk"), nonBulk);
-        entry.insert(QStringLiteral("bulk"), st.text(5));
-        entry.insert(QStringLiteral("passAirRail"), localised(st.text(6)));
-        entry.insert(QStringLiteral("cargoAir"), localised(st.text(7)));
-        entry.insert(QStringLiteral("loc"), st.text(8));
-        entry.insert(QStringLiteral("symbols"), st.text(9));
-        replaceStowage(*this, entry);
-        entries.append(entry);
-    }
-    // Stable, so rows of one rank keep the query's name order.
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const StringMap& a, const StringMap& b) { return packingGroupRank(a) < packingGroupRank(b); });
-    material.hmtEntries = entries;
-    return entries;
+        const QString columns = QStringLiteral(" name, packing_group, label_codes, special_provisions, non_bulk, bulk, "
+                                               "pass_air_rail, cargo_air, vessel_loc, symbols ");
+        Statement st(m_npgDb, QStringLiteral("select distinct %1 from hmt where un_id = %2 group by %1 order by name, packing_group")
+                                  .arg(columns, material.unId));
+        QList<StringMap> entries;
+        while (st.step()) {
+            StringMap entry;
+            entry.insert(QStringLiteral("name"), st.text(0));
+            insertPackingGroup(*this, entry, st.text(1));
+            entry.insert(QStringLiteral("labelCodes"), st.text(2));
+            entry.insert(QStringLiteral("specialProvisions"), st.text(3));
+            const QString nonBulk = st.text(4);
+            entry.insert(QStringLiteral("nonBulkTitle"), sectionTitle(*this, nonBulk));
+            entry.insert(QStringLiteral("nonBulk"), nonBulk);
+            entry.insert(QStringLiteral("bulk"), st.text(5));
+            entry.insert(QStringLiteral("passAirRail"), localised(st.text(6)));
+            entry.insert(QStringLiteral("cargoAir"), localised(st.text(7)));
+            entry.insert(QStringLiteral("loc"), st.text(8));
+            entry.insert(QStringLiteral("symbols"), st.text(9));
+            replaceStowage(*this, entry);
+            entries.append(entry);
+        }
+        // Stable, so rows of one rank keep the query's name order.
+        std::stable_sort(entries.begin(), entries.end(),
+                         [](const StringMap& a, const StringMap& b) { return packingGroupRank(a) < packingGroupRank(b); });
+        return entries;
+    });
 }
 
 StringMap QORModel::getHmtAttributesForMaterial(Material& material)
 {
-    if (material.hmtAttributes)
-        return *material.hmtAttributes;
-    const QString placard = placardFor(*this, material);
-    material.hmtAttributes.emplace();
+    return cachedLookup(material.hmtAttributes, [&] {
+        const QString placard = placardFor(*this, material);
 
-    // The placard goes in as a bare term: numeric classes match, while "blank"
-    // or any other word fails to prepare and leaves the attributes empty.
-    Statement st(m_npgDb, QStringLiteral("select symbols, class, packing_group, label_codes, special_provisions, exceptions, "
-                                         "non_bulk, bulk, pass_air_rail, cargo_air, vessel_loc, other, future  from hmt "
-                                         "where un_id = %1 and class = %2")
-                              .arg(material.unId, placard));
-    StringMap attributes;
-    if (st.step()) {
-        attributes.insert(QStringLiteral("symbols"), st.text(0));
-        attributes.insert(QStringLiteral("class"), st.text(1));
-        insertPackingGroup(*this, attributes, st.text(2));
-        attributes.insert(QStringLiteral("labelCodes"), st.text(3));
-        attributes.insert(QStringLiteral("specialProvisions"), st.text(4));
-        attributes.insert(QStringLiteral("exceptions"), st.text(5));
-        const QString nonBulk = st.text(6);
-        attributes.insert(QStringLiteral("nonBulk"), nonBulk);
-        attributes.insert(QStringLiteral("nonBulkTitle"), sectionTitle(*this, nonBulk));
-        const QString bulk = st.text(7);
-        attributes.insert(QStringLiteral("bulk"), bulk);
-        attributes.insert(QStringLiteral("bulkTitle"), sectionTitle(*this, bulk));
-        attributes.insert(QStringLiteral("passAirRail"), localised(st.text(8)));
-        attributes.insert(QStringLiteral("cargoAir"), localised(st.text(9)));
-        attributes.insert(QStringLiteral("loc"), st.text(10));
-        attributes.insert(QStringLiteral("other"), st.text(11));
-    }
-    replaceStowage(*this, attributes);
-    material.hmtAttributes = attributes;
-    return attributes;
+        // The placard goes in as a bare term: numeric classes match, while "blank"
+        // or any other word fails to prepare and leaves the attributes empty.
+        Statement st(m_npgDb, QStringLiteral("select symbols, class, packing_group, label_codes, special_provisions, exceptions, "
+                                             "non_bulk, bulk, pass_air_rail, cargo_air, vessel_loc, other, future  from hmt "
+                                             "where un_id = %1 and class = %2")
+                                  .arg(material.unId, placard));
+        StringMap attributes;
+        if (st.step()) {
+            attributes.insert(QStringLiteral("symbols"), st.text(0));
+            attributes.insert(QStringLiteral("class"), st.text(1));
+            insertPackingGroup(*this, attributes, st.text(2));
+            attributes.insert(QStringLiteral("labelCodes"), st.text(3));
+            attributes.insert(QStringLiteral("specialProvisions"), st.text(4));
+            attributes.insert(QStringLiteral("exceptions"), st.text(5));
+            const QString nonBulk = st.text(6);
+            attributes.insert(QStringLiteral("nonBulk"), nonBulk);
+            attributes.insert(QStringLiteral("nonBulkTitle"), sectionTitle(*this, nonBulk));
+            const QString bulk = st.text(7);
+            attributes.insert(QStringLiteral("bulk"), bulk);
+            attributes.insert(QStringLiteral("bulkTitle"), sectionTitle(*this, bulk));
+            attributes.insert(QStringLiteral("passAirRail"), localised(st.text(8)));
+            attributes.insert(QStringLiteral("cargoAir"), localised(st.text(9)));
+            attributes.insert(QStringLiteral("loc"), st.text(10));
+            attributes.insert(QStringLiteral("other"), st.text(11));
+        }
+        replaceStowage(*this, attributes);
+        return attributes;
+    });
 }
 
 QString QORModel::titleForHMTRegSection(const QString& section)
