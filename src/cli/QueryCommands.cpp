@@ -53,7 +53,7 @@ int provisionCommand(Context& ctx, QStringList args)
     return Found;
 }
 
-const bool registered = registerCommand({ QStringLiteral("cfr"), QStringLiteral("cfr SECTION | --node ID  the part 173 regulation page as HTML"), cfrCommand })
+const bool registered = registerCommand({ QStringLiteral("cfr"), QStringLiteral("cfr SECTION | --node ID  the 49 CFR 173 regulation page as HTML"), cfrCommand })
     && registerCommand({ QStringLiteral("provision"), QStringLiteral("provision CODE      group key, list subtitle and screen title of a special provision"), provisionCommand });
 
 } // namespace

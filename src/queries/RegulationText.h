@@ -1,5 +1,5 @@
 #pragma once
-// Building blocks of the part 173 regulation page, shared with qor-cli.
+// Building blocks of the 49 CFR 173 regulation page, shared with qor-cli.
 #include <QString>
 #include <optional>
 

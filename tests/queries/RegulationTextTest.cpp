@@ -1,4 +1,4 @@
-// Part 173 pages, provision groups and the provision page factory.
+// 49 CFR 173 pages, provision groups and the provision page factory.
 #include "FakePageView.h"
 #include "QueriesFixture.h"
 
