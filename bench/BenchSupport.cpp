@@ -88,6 +88,7 @@ void writeScalePack(const QString& dir, int materials, int incidents)
         exec(inc, QStringLiteral("insert into incidents values ('B-%1','%2','2025-01-01','%3','%4','%5','%6','%7','%8','N','N')")
                       .arg(i).arg(unId, QString::fromLatin1(modes[i % 4]), flag(20), flag(40), flag(30), flag(200), flag(50)));
     }
+    exec(inc, QStringLiteral("create index incidents_un_id on incidents (un_id)"));
     exec(inc, QStringLiteral("commit"));
     sqlite3_close(inc);
     sqlite3_close(openNew(dir + QStringLiteral("/cfr49.db"), QStringLiteral("cfr49.db")));

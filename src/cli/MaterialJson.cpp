@@ -48,6 +48,32 @@ QJsonObject materialJson(QORModel& model, Material& m)
         isoJson.insert(key, stringMapJson(iso.value(key)));
     o.insert(QStringLiteral("isolationDistances"), isoJson);
     o.insert(QStringLiteral("isolationConditions"), QJsonArray::fromStringList(iso.keys()));
+
+    // Chemistry in the order attributeForKey walks it: GHS keys on the CAS
+    // number that CAMEO and then NPG leave on the material.
+    o.insert(QStringLiteral("cameoAttributes"), stringMapJson(model.getCameoAttributesForMaterial(m)));
+    o.insert(QStringLiteral("npgAttributes"), stringMapJson(model.getNPGAttributesForMaterial(m)));
+    o.insert(QStringLiteral("ghsAttributes"), stringMapJson(model.getGHSAttributesForMaterial(m)));
+    o.insert(QStringLiteral("wiserAttributes"), stringMapJson(model.getWiserAttributesForMaterial(m)));
+    o.insert(QStringLiteral("casNumbers"), stringMapJson(model.getNPGCasNumbersForMaterial(m)));
+    const std::optional<StringMap> nfpa = model.nfpaForMaterial(m);
+    o.insert(QStringLiteral("nfpa"), nfpa ? QJsonValue(stringMapJson(*nfpa)) : QJsonValue(QJsonValue::Null));
+    o.insert(QStringLiteral("casNo"), m.casNo);
+    o.insert(QStringLiteral("rtecNo"), m.rtecNo);
+    o.insert(QStringLiteral("npgIndex"), m.npgIndex);
+    QJsonArray resources;
+    for (const OtherResource& r : std::as_const(m.otherResources))
+        resources.append(QJsonObject{ { QStringLiteral("text"), r.text }, { QStringLiteral("url"), r.url },
+                                      { QStringLiteral("type"), r.type } });
+    o.insert(QStringLiteral("otherResources"), resources);
+
+    o.insert(QStringLiteral("incidentsSummary"), model.incidentsSummaryForMaterial(m));
+    QJsonArray entries;
+    for (const StringMap& e : model.getHmtEntriesForMaterial(m))
+        entries.append(stringMapJson(e));
+    o.insert(QStringLiteral("hmtEntries"), entries);
+    o.insert(QStringLiteral("hmtAttributes"), stringMapJson(model.getHmtAttributesForMaterial(m)));
+    o.insert(QStringLiteral("placardName"), model.placardNameForMaterial(m));
     return o;
 }
 

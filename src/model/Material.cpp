@@ -36,17 +36,24 @@ std::optional<QString> Material::attributeForKey(const QString& key)
     QORModel* model = QORModel::sharedInstance(false);
     if (!model)
         return std::nullopt;
+    // All three run, in this order, whatever the key: GHS keys on the CAS
+    // number the CAMEO and NPG lookups leave on the material.
+    std::optional<QString> found;
+    for (const StringMap& source : { model->getCameoAttributesForMaterial(*this), model->getNPGAttributesForMaterial(*this),
+                                     model->getGHSAttributesForMaterial(*this) }) {
+        auto it = source.constFind(key);
+        if (it != source.cend()) {
+            found = *it;
+            break;
+        }
+    }
     if (key == QLatin1String("USE")) {
         const StringMap wiser = model->getWiserAttributesForMaterial(*this);
         auto it = wiser.constFind(key);
         return it == wiser.cend() ? std::nullopt : std::optional<QString>(*it);
     }
-    for (const StringMap& source : { model->getCameoAttributesForMaterial(*this), model->getNPGAttributesForMaterial(*this),
-                                     model->getGHSAttributesForMaterial(*this) }) {
-        auto it = source.constFind(key);
-        if (it != source.cend())
-            return *it;
-    }
+    if (found)
+        return found;
     if (key == QLatin1String("CameoHazardText")) {
         const StringMap wiser = model->getWiserAttributesForMaterial(*this);
         auto it = wiser.constFind(QStringLiteral("EXP"));
