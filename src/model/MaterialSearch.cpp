@@ -182,15 +182,28 @@ bool MaterialSearch::search(const QString& text, const Filter* filter, const Mat
         }
     }
 
-    for (const auto& m : materials) {
+    // Lower-cased names are kept between keystrokes: a case-insensitive
+    // contains() over thousands of names is the slow part of a keystroke.
+    // Holding a shared copy of the list keeps its buffer alive, so the
+    // address comparison cannot mistake a new list for the old one.
+    if (m_namesOf.constData() != materials.constData() || m_lowerNames.size() != materials.size()) {
+        m_lowerNames.clear();
+        m_lowerNames.reserve(materials.size());
+        for (const auto& m : materials)
+            m_lowerNames.append(m->name.toLower());
+        m_namesOf = materials;
+    }
+    const QString needle = t.toLower();
+    for (qsizetype i = 0; i < materials.size(); ++i) {
         if (m_results.size() > kScanLimit)
             break;
+        const MaterialPtr& m = materials.at(i);
         bool match = false;
         switch (sortType) {
         case 0:
         case 2:
         case 3:
-            match = m->name.contains(t, Qt::CaseInsensitive) || m->unId.startsWith(t);
+            match = m->unId.startsWith(t) || m_lowerNames.at(i).contains(needle);
             break;
         case 1:
             match = m->unId.startsWith(t);

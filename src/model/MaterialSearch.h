@@ -4,6 +4,7 @@
 #include "Material.h"
 
 #include <QHash>
+#include <QStringList>
 #include <functional>
 
 namespace qor {
@@ -41,6 +42,8 @@ private:
     ViewedPredicate m_viewed;
     MaterialList m_results;
     QString m_lastSearchText;
+    QStringList m_lowerNames;
+    MaterialList m_namesOf;
 };
 
 } // namespace qor
