@@ -15,6 +15,11 @@ void PageViewFactory::setCreator(Creator c)
     creator() = std::move(c);
 }
 
+bool PageViewFactory::isAvailable()
+{
+    return bool(creator());
+}
+
 PageView* PageViewFactory::create()
 {
     if (creator())
