@@ -29,6 +29,9 @@ public:
     // Asynchronous; the callback runs on the main thread when the result arrives.
     virtual void evaluateJavaScript(const QString& script, ScriptCallback done) = 0;
 
+    // Loads an empty page so the engine behind the view is up before use.
+    void warmUp() { loadData(QByteArray(), QStringLiteral("text/html"), QStringLiteral("UTF8"), QUrl()); }
+
     QSize size() const { return m_frame.size(); }
     void setSize(const QSize& size) { m_frame.setSize(size); }
     // Placement hints for whoever shows the view; the page itself ignores them.
@@ -91,6 +94,17 @@ public:
     static bool isAvailable();
     // A new page view, owned by the caller.
     static PageView* create();
+};
+
+// Views made and warmed up ahead, so showing a page never waits for one.
+class PageViewPool {
+public:
+    static constexpr int kSize = 5;
+    // A warmed-up view, owned by the caller; the pool is filled up again.
+    static PageView* take();
+    static int count();
+    // Deletes the pooled views (the creator changed, or at exit).
+    static void clear();
 };
 
 } // namespace qor

@@ -202,3 +202,19 @@ TEST(FontCache, NamesKeepTheirSizes)
     EXPECT_TRUE(fonts.boldSystem19.bold());
     EXPECT_FALSE(fonts.footerFont.bold());
 }
+
+TEST(PageViewPool, HandsOutWarmViewsAndRefillsToFive)
+{
+    test::FakePageViews views;
+    PageView* v = PageViewPool::take();
+    EXPECT_EQ(PageViewPool::count(), PageViewPool::kSize);
+    EXPECT_EQ(views.made.size(), PageViewPool::kSize + 1);
+    auto* fake = static_cast<test::FakePageView*>(v);
+    EXPECT_EQ(fake->loadCount, 1);
+    EXPECT_TRUE(fake->lastData.isEmpty());
+    EXPECT_TRUE(fake->lastBaseUrl.isEmpty());
+    std::unique_ptr<PageView> second(PageViewPool::take());
+    EXPECT_NE(second.get(), v);
+    EXPECT_EQ(views.made.size(), PageViewPool::kSize + 2);
+    delete v;
+}
