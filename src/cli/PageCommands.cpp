@@ -54,26 +54,26 @@ int printPage(Context& ctx, const QString& what, const QString& name, const Page
     return Found;
 }
 
-int guideCommand(Context& ctx, QStringList args)
+// guide ID / info PAGE: the same preparation, but only guides can be dark.
+int pageCommand(Context& ctx, QStringList args, const QString& what, bool allowDark)
 {
     PageOptions options;
     int status = 0;
-    if (!takePageOptions(ctx, args, true, &options, &status))
+    if (!takePageOptions(ctx, args, allowDark, &options, &status))
         return status;
     if (args.size() != 1)
-        return ctx.usage(QStringLiteral("guide needs exactly one guide number"));
-    return printPage(ctx, QStringLiteral("guide"), args.first(), options);
+        return ctx.usage(QStringLiteral("%1 needs exactly one page name").arg(what));
+    return printPage(ctx, what, args.first(), options);
+}
+
+int guideCommand(Context& ctx, QStringList args)
+{
+    return pageCommand(ctx, std::move(args), QStringLiteral("guide"), true);
 }
 
 int infoCommand(Context& ctx, QStringList args)
 {
-    PageOptions options;
-    int status = 0;
-    if (!takePageOptions(ctx, args, false, &options, &status))
-        return status;
-    if (args.size() != 1)
-        return ctx.usage(QStringLiteral("info needs exactly one page name"));
-    return printPage(ctx, QStringLiteral("info"), args.first(), options);
+    return pageCommand(ctx, std::move(args), QStringLiteral("info"), false);
 }
 
 int pdfCommand(Context& ctx, QStringList args)

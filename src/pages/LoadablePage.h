@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QRecursiveMutex>
 #include <QTimer>
+#include <algorithm>
 #include <functional>
 #include <optional>
 
@@ -74,19 +75,13 @@ private:
 template <typename Views>
 int loadingCount(const Views& views)
 {
-    int n = 0;
-    for (const auto& v : views)
-        n += v->loading ? 1 : 0;
-    return n;
+    return int(std::count_if(views.begin(), views.end(), [](const auto& v) { return v->loading; }));
 }
 
 template <typename Views>
 int unloadedCount(const Views& views)
 {
-    int n = 0;
-    for (const auto& v : views)
-        n += v->loaded ? 0 : 1;
-    return n;
+    return int(std::count_if(views.begin(), views.end(), [](const auto& v) { return !v->loaded; }));
 }
 
 // Starts pages that are neither loaded nor loading while fewer than limit

@@ -2,7 +2,6 @@
 #include "PagesSupport.h"
 
 #include "model/QORModel.h"
-#include "pages/FontCache.h"
 #include "pages/GuideViewFactory.h"
 
 #include <QTimer>
@@ -103,13 +102,8 @@ TEST_F(GuideFactoryTest, SelectingAGuideStopsTheTimerAndLoadsItOnce)
     EXPECT_TRUE(view("112").loading);
     factory->loadSelectedGuide(QStringLiteral("112"));
     EXPECT_EQ(shared()->loadCount, 1);
-
-    Material m;
-    m.guideId = QStringLiteral("111");
-    factory->loadSelectedGuideForMaterial(m);
-    EXPECT_TRUE(view("111").loading);
     factory->loadSelectedGuide(QStringLiteral("999"));  // no such guide: nothing happens
-    EXPECT_EQ(shared()->loadCount, 2);
+    EXPECT_EQ(shared()->loadCount, 1);
 }
 
 TEST_F(GuideFactoryTest, PrioritisedListStopsOtherLoadsAndRestartsTimerForTwoOrMore)
@@ -131,17 +125,6 @@ TEST_F(GuideFactoryTest, PrioritisedListStopsOtherLoadsAndRestartsTimerForTwoOrM
     EXPECT_TRUE(factory->isLoadingTimerActive());
 }
 
-TEST_F(GuideFactoryTest, ReleaseRebuildsAndLoadsEveryGuide)
-{
-    factory->loadGuideList();
-    const GuideViewPtr before = factory->viewForGuide(*view("111").guide);
-    factory->releaseGuides();
-    EXPECT_NE(factory->viewForGuide(*before->guide), before);
-    EXPECT_EQ(factory->loadingCount(), 3);
-    EXPECT_EQ(shared()->loadCount, 3);
-    EXPECT_EQ(factory->viewForGuide(Guide(QStringLiteral("999"), QString())), nullptr);
-}
-
 TEST_F(GuideFactoryTest, ReloadInDarkMakesEveryPageUseTheDarkSheet)
 {
     factory->loadGuideList();
@@ -152,7 +135,8 @@ TEST_F(GuideFactoryTest, ReloadInDarkMakesEveryPageUseTheDarkSheet)
         EXPECT_FALSE(view(id).data.contains("base.css")) << id;
         EXPECT_FALSE(view(id).loading) << id;  // rebuilt once more without loading
     }
-    EXPECT_EQ(shared()->loadCount, 3);
+    EXPECT_EQ(shared()->loadCount, 3);  // the release loaded every page once
+    EXPECT_EQ(factory->viewForGuide(Guide(QStringLiteral("999"), QString())), nullptr);
 
     factory->reloadGuides(false);
     EXPECT_TRUE(view("111").data.contains("base.css"));
@@ -168,8 +152,6 @@ public:
         QTimer::singleShot(10, this, [script, done] {
             if (script.startsWith(QStringLiteral("throw")))
                 done(QVariant(), QStringLiteral("ReferenceError"));
-            else if (script == QStringLiteral("undefined"))
-                done(QVariant(), QString());
             else
                 done(QVariant(42), QString());
         });
@@ -183,7 +165,6 @@ TEST(GuideViewScript, EvaluationWaitsForTheAnswer)
     DeferredScriptView view;
     EXPECT_EQ(evaluateScriptSync(&view, QStringLiteral("6*7")), QStringLiteral("42"));
     EXPECT_EQ(evaluateScriptSync(&view, QStringLiteral("throw 1")), std::nullopt);
-    EXPECT_EQ(evaluateScriptSync(&view, QStringLiteral("undefined")), std::nullopt);
     EXPECT_EQ(evaluateScriptSync(nullptr, QStringLiteral("1")), std::nullopt);
 
     GuideView guideView;
@@ -192,29 +173,11 @@ TEST(GuideViewScript, EvaluationWaitsForTheAnswer)
     PageViewFactory::setCreator({});
 }
 
-TEST(FontCache, NamesKeepTheirSizes)
-{
-    const FontCache& fonts = FontCache::sharedInstance();
-    EXPECT_EQ(&fonts, &FontCache::sharedInstance());
-    EXPECT_EQ(fonts.helvetica14.family(), QStringLiteral("helvetica"));
-    EXPECT_EQ(fonts.helvetica14.pointSizeF(), 14);
-    EXPECT_EQ(fonts.boldSystem19.pointSizeF(), 20);
-    EXPECT_TRUE(fonts.boldSystem19.bold());
-    EXPECT_FALSE(fonts.footerFont.bold());
-}
-
 TEST(PageViewPool, HandsOutWarmViewsAndRefillsToFive)
 {
     test::FakePageViews views;
-    PageView* v = PageViewPool::take();
+    std::unique_ptr<PageView> view(PageViewPool::take());
     EXPECT_EQ(PageViewPool::count(), PageViewPool::kSize);
     EXPECT_EQ(views.made.size(), PageViewPool::kSize + 1);
-    auto* fake = static_cast<test::FakePageView*>(v);
-    EXPECT_EQ(fake->loadCount, 1);
-    EXPECT_TRUE(fake->lastData.isEmpty());
-    EXPECT_TRUE(fake->lastBaseUrl.isEmpty());
-    std::unique_ptr<PageView> second(PageViewPool::take());
-    EXPECT_NE(second.get(), v);
-    EXPECT_EQ(views.made.size(), PageViewPool::kSize + 2);
-    delete v;
+    EXPECT_EQ(static_cast<test::FakePageView*>(view.get())->loadCount, 1);
 }

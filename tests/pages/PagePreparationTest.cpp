@@ -52,15 +52,3 @@ TEST(PagePreparation, TabletFixesOnlyTheViewportWithBlanks)
     EXPECT_EQ(preparePageText(both, PageOptions{ 100, false, true }), QStringLiteral("a width = 500 b width=device-width"));
     EXPECT_EQ(preparePageText(both, PageOptions{ 100, false, false }), both);
 }
-
-TEST(PagePreparation, MissingFileGivesNoBytes)
-{
-    EXPECT_TRUE(preparePageFile(QStringLiteral("/nonexistent/128.html"), PageOptions{}).isEmpty());
-}
-
-TEST(PagePreparation, TextSizeScriptsDifferOnlyInBlankAndSemicolon)
-{
-    EXPECT_EQ(guideTextSizeScript(112.4),
-              QStringLiteral(" document.getElementsByTagName('body')[0].style.webkitTextSizeAdjust= '112%';"));
-    EXPECT_EQ(infoTextSizeScript(65), QStringLiteral("document.getElementsByTagName('body')[0].style.webkitTextSizeAdjust= '65%'"));
-}

@@ -13,18 +13,20 @@
 
 namespace qor::test {
 
-// A PDF whose pages measure size points, each filled with a colour.
-inline void writePdf(const QString& path, const QSizeF& size, int pages = 1, const QColor& colour = Qt::red)
+// A PDF with one page per size (points), filled with colour; page 2 onwards blue.
+inline void writePdf(const QString& path, const QList<QSizeF>& pages, const QColor& colour = Qt::red)
 {
     QPdfWriter writer(path);
-    writer.setPageSize(QPageSize(size, QPageSize::Point, QString(), QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF(0, 0, 0, 0));
     writer.setResolution(72);
+    writer.setPageSize(QPageSize(pages.first(), QPageSize::Point, QString(), QPageSize::ExactMatch));
     QPainter painter(&writer);
-    for (int i = 0; i < pages; ++i) {
-        if (i > 0)
+    for (qsizetype i = 0; i < pages.size(); ++i) {
+        if (i > 0) {
+            writer.setPageSize(QPageSize(pages[i], QPageSize::Point, QString(), QPageSize::ExactMatch));
             writer.newPage();
-        painter.fillRect(QRectF(QPointF(0, 0), size), colour);
+        }
+        painter.fillRect(QRectF(QPointF(0, 0), pages[i]), i == 0 ? colour : QColor(Qt::blue));
     }
 }
 
