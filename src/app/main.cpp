@@ -1,5 +1,6 @@
 // qor: the GUI. Thin: options, the single running instance, and the QML shell.
 #include "AppDelegate.h"
+#include "PdfImageProvider.h"
 #include "model/QORModel.h"
 #include "model/Resources.h"
 
@@ -135,6 +136,7 @@ int main(int argc, char** argv)
     const QStringList links = parser.positionalArguments();
 
     QQmlApplicationEngine engine;
+    engine.addImageProvider(QString::fromLatin1(PdfImageProvider::kProviderId), new PdfImageProvider);
     if (parser.isSet(selfTest))
         return runSelfTest(engine, app);
     if (parser.isSet(emptyWindow)) {

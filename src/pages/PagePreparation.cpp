@@ -46,4 +46,14 @@ QByteArray preparePageFile(const QString& path, const PageOptions& options)
     return preparePageText(QString::fromUtf8(file.readAll()), options).toUtf8();
 }
 
+QString guideTextSizeScript(double percent)
+{
+    return QString::asprintf(" document.getElementsByTagName('body')[0].style.webkitTextSizeAdjust= '%.0f%%';", percent);
+}
+
+QString infoTextSizeScript(double percent)
+{
+    return QString::asprintf("document.getElementsByTagName('body')[0].style.webkitTextSizeAdjust= '%.0f%%'", percent);
+}
+
 } // namespace qor

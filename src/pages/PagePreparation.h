@@ -22,4 +22,8 @@ QString preparePageText(QString html, const PageOptions& options);
 // Reads the file as UTF-8 and prepares it; a missing file gives no bytes.
 QByteArray preparePageFile(const QString& path, const PageOptions& options);
 
+// Scripts that change the text size of a page already on screen (percent).
+QString guideTextSizeScript(double percent);
+QString infoTextSizeScript(double percent);
+
 } // namespace qor
