@@ -1,0 +1,64 @@
+#include "Clock.h"
+
+#include <QTimeZone>
+
+namespace qor {
+
+namespace {
+std::function<Clock::TimePoint()>& source()
+{
+    static std::function<Clock::TimePoint()> fn;
+    return fn;
+}
+
+constexpr qint64 kReferenceDateMsecs = 978307200000LL;  // 2001-01-01T00:00:00Z
+} // namespace
+
+Clock::TimePoint Clock::now()
+{
+    if (source())
+        return source()();
+    return std::chrono::time_point_cast<std::chrono::microseconds>(std::chrono::system_clock::now());
+}
+
+QDateTime Clock::currentDateTime()
+{
+    return toDateTime(now());
+}
+
+double Clock::timeIntervalSinceReferenceDate()
+{
+    const auto us = now().time_since_epoch().count() - kReferenceDateMsecs * 1000;
+    return double(us) / 1e6;
+}
+
+void Clock::setSource(std::function<TimePoint()> fn)
+{
+    source() = std::move(fn);
+}
+
+void Clock::setFixed(const QDateTime& when)
+{
+    const TimePoint t = fromDateTime(when);
+    source() = [t] { return t; };
+}
+
+Clock::TimePoint Clock::fromDateTime(const QDateTime& when)
+{
+    return TimePoint(std::chrono::microseconds(when.toMSecsSinceEpoch() * 1000));
+}
+
+QDateTime Clock::toDateTime(TimePoint when)
+{
+    const auto us = when.time_since_epoch().count();
+    // Floor division keeps instants before 1970 on the right millisecond.
+    const qint64 ms = us >= 0 ? us / 1000 : -((-us + 999) / 1000);
+    return QDateTime::fromMSecsSinceEpoch(ms);
+}
+
+QDateTime Clock::referenceDate()
+{
+    return QDateTime::fromMSecsSinceEpoch(kReferenceDateMsecs, QTimeZone::utc());
+}
+
+} // namespace qor
