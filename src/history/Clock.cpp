@@ -53,7 +53,8 @@ QDateTime Clock::toDateTime(TimePoint when)
     const auto us = when.time_since_epoch().count();
     // Floor division keeps instants before 1970 on the right millisecond.
     const qint64 ms = us >= 0 ? us / 1000 : -((-us + 999) / 1000);
-    return QDateTime::fromMSecsSinceEpoch(ms);
+    // UTC: comparing and saving local-time values looks the zone up every time.
+    return QDateTime::fromMSecsSinceEpoch(ms, QTimeZone::utc());
 }
 
 QDateTime Clock::referenceDate()

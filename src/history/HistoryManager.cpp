@@ -45,20 +45,28 @@ qint64 dateKey(const HistoryObjectPtr& e)
 }
 
 // The first `limit` entries in `before` order; ties by name keep lists stable.
-template <typename Before>
-HistoryList topEntries(HistoryList all, Before before, qsizetype limit)
+// The first `limit` entries by descending key, ties by name. Keys are read
+// once up front: each read is a property look-up and conversion.
+template <typename Key>
+HistoryList topEntries(const QHash<QString, HistoryObjectPtr>& objects, Key key, qsizetype limit)
 {
-    auto cmp = [&](const HistoryObjectPtr& a, const HistoryObjectPtr& b) {
-        if (before(a, b))
-            return true;
-        if (before(b, a))
-            return false;
-        return byName(a, b);
+    using K = decltype(key(HistoryObjectPtr()));
+    std::vector<std::pair<K, HistoryObjectPtr>> keyed;
+    keyed.reserve(size_t(objects.size()));
+    for (const HistoryObjectPtr& e : objects)
+        keyed.emplace_back(key(e), e);
+    const auto cmp = [](const auto& a, const auto& b) {
+        if (a.first != b.first)
+            return a.first > b.first;
+        return byName(a.second, b.second);
     };
-    const qsizetype n = std::min(limit, all.size());
-    std::partial_sort(all.begin(), all.begin() + n, all.end(), cmp);
-    all.resize(n);
-    return all;
+    const size_t n = size_t(std::min(limit, objects.size()));
+    std::partial_sort(keyed.begin(), keyed.begin() + qsizetype(n), keyed.end(), cmp);
+    HistoryList out;
+    out.reserve(qsizetype(n));
+    for (size_t i = 0; i < n; ++i)
+        out.append(keyed[i].second);
+    return out;
 }
 } // namespace
 
@@ -129,14 +137,12 @@ HistoryList ViewedHistory::allAlpha()
 
 HistoryList ViewedHistory::recent() const
 {
-    return topEntries(history(), [](const HistoryObjectPtr& a, const HistoryObjectPtr& b) { return dateKey(a) > dateKey(b); },
-                      kListLimit);
+    return topEntries(objects, dateKey, kListLimit);
 }
 
 HistoryList ViewedHistory::mostViewed() const
 {
-    return topEntries(history(), [](const HistoryObjectPtr& a, const HistoryObjectPtr& b) { return a->viewCount() > b->viewCount(); },
-                      kListLimit);
+    return topEntries(objects, [](const HistoryObjectPtr& e) { return e->viewCount(); }, kListLimit);
 }
 
 HistoryList ViewedHistory::watching() const
@@ -178,11 +184,11 @@ void HistoryManager::addToHistory(const MaterialPtr& material, const QDateTime& 
     if (const HistoryObjectPtr existing = m_viewedHistory.objects.value(key)) {
         // Name and other fields stay as first recorded.
         existing->properties.insert(kViewCount, existing->viewCount() + 1);
-        existing->properties.insert(kLastViewDate, lastViewDate);
+        existing->properties.insert(kLastViewDate, lastViewDate.toUTC());
         return;
     }
     auto entry = std::make_shared<HistoryObject>(material);
-    entry->properties.insert(kLastViewDate, lastViewDate);
+    entry->properties.insert(kLastViewDate, lastViewDate.toUTC());
     m_viewedHistory.objects.insert(key, entry);
 }
 

@@ -1,6 +1,9 @@
 #include "PropertyList.h"
 
 #include <QDateTime>
+#include <QHash>
+#include <cstring>
+#include <vector>
 #include <QTimeZone>
 #include <limits>
 #include <memory>
@@ -17,49 +20,82 @@ struct NodeDeleter {
 };
 using Node = std::unique_ptr<void, NodeDeleter>;
 
-Node toNode(const QVariant& value, QString* error)
+enum class Kind { String, Bool, Int, UInt, Real, Data, Date, Array, Dict, Uid, Unsupported };
+
+Kind kindOf(const QVariant& value)
 {
-    const int type = value.metaType().id();
-    switch (type) {
+    switch (value.metaType().id()) {
     case QMetaType::QString:
-        return Node(plist_new_string(value.toString().toUtf8().constData()));
+        return Kind::String;
     case QMetaType::Bool:
-        return Node(plist_new_bool(value.toBool() ? 1 : 0));
+        return Kind::Bool;
     case QMetaType::Int:
     case QMetaType::Long:
     case QMetaType::LongLong:
     case QMetaType::Short:
-        // Two's complement: negative values read back as the same signed value.
-        return Node(plist_new_uint(quint64(value.toLongLong())));
+        return Kind::Int;
     case QMetaType::UInt:
     case QMetaType::ULong:
     case QMetaType::ULongLong:
     case QMetaType::UShort:
-        return Node(plist_new_uint(value.toULongLong()));
+        return Kind::UInt;
     case QMetaType::Double:
     case QMetaType::Float:
+        return Kind::Real;
+    case QMetaType::QByteArray:
+        return Kind::Data;
+    case QMetaType::QDateTime:
+        return value.toDateTime().isValid() ? Kind::Date : Kind::Unsupported;
+    case QMetaType::QVariantList:
+    case QMetaType::QStringList:
+        return Kind::Array;
+    case QMetaType::QVariantMap:
+        return Kind::Dict;
+    default:
+        return value.metaType().id() == qMetaTypeId<PlistUid>() ? Kind::Uid : Kind::Unsupported;
+    }
+}
+
+bool unsupported(const QVariant& value, QString* error)
+{
+    if (error && error->isEmpty())
+        *error = QStringLiteral("a property list cannot hold a value of type %1")
+                     .arg(QString::fromLatin1(value.metaType().name() ? value.metaType().name() : "invalid"));
+    return false;
+}
+
+double secondsSinceReferenceDate(const QDateTime& date)
+{
+    return double(date.toMSecsSinceEpoch() - kReferenceDateMsecs) / 1000.0;
+}
+
+// Used for the XML form only; the binary form has its own writer below.
+Node toNode(const QVariant& value, QString* error)
+{
+    switch (kindOf(value)) {
+    case Kind::String:
+        return Node(plist_new_string(value.toString().toUtf8().constData()));
+    case Kind::Bool:
+        return Node(plist_new_bool(value.toBool() ? 1 : 0));
+    case Kind::Int:
+        // Two's complement: negative values read back as the same signed value.
+        return Node(plist_new_uint(quint64(value.toLongLong())));
+    case Kind::UInt:
+        return Node(plist_new_uint(value.toULongLong()));
+    case Kind::Real:
         return Node(plist_new_real(value.toDouble()));
-    case QMetaType::QByteArray: {
+    case Kind::Data: {
         const QByteArray bytes = value.toByteArray();
         return Node(plist_new_data(bytes.constData(), quint64(bytes.size())));
     }
-    case QMetaType::QDateTime: {
-        const QDateTime dt = value.toDateTime();
-        if (!dt.isValid())
-            break;
-        const qint64 ms = dt.toMSecsSinceEpoch() - kReferenceDateMsecs;
-        qint64 sec = ms / 1000;
-        qint64 msRest = ms % 1000;
-        if (msRest < 0) {
-            --sec;
-            msRest += 1000;
-        }
+    case Kind::Date: {
+        const qint64 ms = value.toDateTime().toMSecsSinceEpoch() - kReferenceDateMsecs;
+        const qint64 sec = ms >= 0 ? ms / 1000 : -((-ms + 999) / 1000);
         if (sec < std::numeric_limits<int32_t>::min() || sec > std::numeric_limits<int32_t>::max())
             break;
-        return Node(plist_new_date(int32_t(sec), int32_t(msRest * 1000)));
+        return Node(plist_new_date(int32_t(sec), int32_t((ms - sec * 1000) * 1000)));
     }
-    case QMetaType::QVariantList:
-    case QMetaType::QStringList: {
+    case Kind::Array: {
         Node array(plist_new_array());
         for (const QVariant& item : value.toList()) {
             Node child = toNode(item, error);
@@ -69,7 +105,7 @@ Node toNode(const QVariant& value, QString* error)
         }
         return array;
     }
-    case QMetaType::QVariantMap: {
+    case Kind::Dict: {
         Node dict(plist_new_dict());
         const QVariantMap map = value.toMap();
         for (auto it = map.constBegin(); it != map.constEnd(); ++it) {
@@ -80,18 +116,244 @@ Node toNode(const QVariant& value, QString* error)
         }
         return dict;
     }
-    default:
-        if (type == qMetaTypeId<PlistUid>())
-            return Node(plist_new_uid(value.value<PlistUid>().value));
+    case Kind::Uid:
+        return Node(plist_new_uid(value.value<PlistUid>().value));
+    case Kind::Unsupported:
         break;
     }
-    if (error && error->isEmpty())
-        *error = QStringLiteral("a property list cannot hold a value of type %1")
-                     .arg(QString::fromLatin1(value.metaType().name() ? value.metaType().name() : "invalid"));
+    unsupported(value, error);
     return {};
 }
 
-QVariant fromNode(plist_t node)
+// Binary form ("bplist00"), written directly: the library's writer spends
+// most of its time uniquing objects, far too slow for a large history.
+// Strings, integers and booleans are written once and shared.
+class BinaryWriter {
+public:
+    bool add(const QVariant& value, QString* error) { return collect(value, error).has_value(); }
+
+    QByteArray finish() const
+    {
+        const int refSize = bytesFor(quint64(m_objects.size()));
+        QByteArray out("bplist00");
+        out.reserve(m_payloadEstimate + qsizetype(m_objects.size()) * 4 + 40);
+        std::vector<quint64> offsets;
+        offsets.reserve(m_objects.size());
+        for (const Object& o : m_objects) {
+            offsets.push_back(quint64(out.size()));
+            out.append(o.bytes);
+            for (quint64 ref : o.refs)
+                appendBigEndian(out, ref, refSize);
+        }
+        const quint64 tableOffset = quint64(out.size());
+        const int offsetSize = bytesFor(tableOffset);
+        for (quint64 off : offsets)
+            appendBigEndian(out, off, offsetSize);
+        out.append(6, '\0');
+        out.append(char(offsetSize));
+        out.append(char(refSize));
+        appendBigEndian(out, quint64(m_objects.size()), 8);
+        appendBigEndian(out, 0, 8);  // the root is the first object
+        appendBigEndian(out, tableOffset, 8);
+        return out;
+    }
+
+private:
+    struct Object {
+        QByteArray bytes;           // marker and payload
+        std::vector<quint64> refs;  // for arrays and dictionaries, after the payload
+    };
+    std::vector<Object> m_objects;
+    QHash<QString, quint64> m_strings;
+    QHash<qint64, quint64> m_ints;
+    quint64 m_bools[2] = { ~0ULL, ~0ULL };
+    qsizetype m_payloadEstimate = 0;
+
+    static int bytesFor(quint64 n)
+    {
+        return n <= 0xFF ? 1 : n <= 0xFFFF ? 2 : n <= 0xFFFFFFFFULL ? 4 : 8;
+    }
+
+    static void appendBigEndian(QByteArray& out, quint64 v, int size)
+    {
+        for (int shift = (size - 1) * 8; shift >= 0; shift -= 8)
+            out.append(char((v >> shift) & 0xFF));
+    }
+
+    static void appendInt(QByteArray& out, qint64 v)
+    {
+        if (v < 0) {
+            out.append(char(0x13));  // eight bytes, the only signed width
+            appendBigEndian(out, quint64(v), 8);
+            return;
+        }
+        const int size = bytesFor(quint64(v));
+        out.append(char(0x10 | (size == 1 ? 0 : size == 2 ? 1 : size == 4 ? 2 : 3)));
+        appendBigEndian(out, quint64(v), size);
+    }
+
+    static void appendMarker(QByteArray& out, int type, quint64 count)
+    {
+        if (count < 15) {
+            out.append(char(type | int(count)));
+            return;
+        }
+        out.append(char(type | 0xF));
+        appendInt(out, qint64(count));
+    }
+
+    static void appendDouble(QByteArray& out, int marker, double d)
+    {
+        quint64 bits;
+        std::memcpy(&bits, &d, sizeof bits);
+        out.append(char(marker));
+        appendBigEndian(out, bits, 8);
+    }
+
+    quint64 push(QByteArray bytes)
+    {
+        m_payloadEstimate += bytes.size();
+        m_objects.push_back(Object{ std::move(bytes), {} });
+        return quint64(m_objects.size() - 1);
+    }
+
+    quint64 string(const QString& s)
+    {
+        auto it = m_strings.constFind(s);
+        if (it != m_strings.constEnd())
+            return *it;
+        QByteArray bytes;
+        bool ascii = true;
+        for (QChar c : s)
+            ascii = ascii && c.unicode() < 0x80;
+        if (ascii) {
+            appendMarker(bytes, 0x50, quint64(s.size()));
+            bytes.append(s.toLatin1());
+        } else {
+            appendMarker(bytes, 0x60, quint64(s.size()));  // UTF-16 code units
+            for (QChar c : s)
+                appendBigEndian(bytes, c.unicode(), 2);
+        }
+        const quint64 index = push(std::move(bytes));
+        m_strings.insert(s, index);
+        return index;
+    }
+
+    std::optional<quint64> collect(const QVariant& value, QString* error)
+    {
+        switch (kindOf(value)) {
+        case Kind::String:
+            return string(value.toString());
+        case Kind::Bool: {
+            const bool b = value.toBool();
+            if (m_bools[b] == ~0ULL)
+                m_bools[b] = push(QByteArray(1, char(b ? 0x09 : 0x08)));
+            return m_bools[b];
+        }
+        case Kind::Int:
+        case Kind::UInt: {
+            const bool big = kindOf(value) == Kind::UInt && value.toULongLong() > quint64(std::numeric_limits<qint64>::max());
+            if (big) {  // sixteen bytes, the high half zero
+                QByteArray bytes(1, char(0x14));
+                appendBigEndian(bytes, 0, 8);
+                appendBigEndian(bytes, value.toULongLong(), 8);
+                return push(std::move(bytes));
+            }
+            const qint64 v = value.toLongLong();
+            auto it = m_ints.constFind(v);
+            if (it != m_ints.constEnd())
+                return *it;
+            QByteArray bytes;
+            appendInt(bytes, v);
+            const quint64 index = push(std::move(bytes));
+            m_ints.insert(v, index);
+            return index;
+        }
+        case Kind::Real: {
+            QByteArray bytes;
+            appendDouble(bytes, 0x23, value.toDouble());
+            return push(std::move(bytes));
+        }
+        case Kind::Date: {
+            QByteArray bytes;
+            appendDouble(bytes, 0x33, secondsSinceReferenceDate(value.toDateTime()));
+            return push(std::move(bytes));
+        }
+        case Kind::Data: {
+            const QByteArray data = value.toByteArray();
+            QByteArray bytes;
+            appendMarker(bytes, 0x40, quint64(data.size()));
+            bytes.append(data);
+            return push(std::move(bytes));
+        }
+        case Kind::Uid: {
+            const quint64 v = value.value<PlistUid>().value;
+            const int size = bytesFor(v);
+            QByteArray bytes(1, char(0x80 | (size - 1)));
+            appendBigEndian(bytes, v, size);
+            return push(std::move(bytes));
+        }
+        case Kind::Array: {
+            const QVariantList list = value.toList();
+            QByteArray bytes;
+            appendMarker(bytes, 0xA0, quint64(list.size()));
+            const quint64 index = push(std::move(bytes));
+            std::vector<quint64> refs;
+            refs.reserve(size_t(list.size()));
+            for (const QVariant& item : list) {
+                const auto ref = collect(item, error);
+                if (!ref)
+                    return std::nullopt;
+                refs.push_back(*ref);
+            }
+            m_objects[index].refs = std::move(refs);
+            return index;
+        }
+        case Kind::Dict: {
+            const QVariantMap map = value.toMap();
+            QByteArray bytes;
+            appendMarker(bytes, 0xD0, quint64(map.size()));
+            const quint64 index = push(std::move(bytes));
+            std::vector<quint64> refs(size_t(map.size()) * 2);
+            size_t i = 0;
+            for (auto it = map.constBegin(); it != map.constEnd(); ++it, ++i) {
+                refs[i] = string(it.key());
+                const auto ref = collect(it.value(), error);
+                if (!ref)
+                    return std::nullopt;
+                refs[size_t(map.size()) + i] = *ref;
+            }
+            m_objects[index].refs = std::move(refs);
+            return index;
+        }
+        case Kind::Unsupported:
+            break;
+        }
+        unsupported(value, error);
+        return std::nullopt;
+    }
+};
+
+// Dictionary keys repeat in every element of a large array; sharing one
+// QString per distinct key saves an allocation per entry.
+class KeyCache {
+public:
+    QString get(const char* key)
+    {
+        for (const auto& [bytes, text] : m_keys)
+            if (bytes == key)
+                return text;
+        QString text = QString::fromUtf8(key);
+        if (m_keys.size() < 32)
+            m_keys.emplace_back(QByteArray(key), text);
+        return text;
+    }
+
+private:
+    std::vector<std::pair<QByteArray, QString>> m_keys;
+};
+
+QVariant fromNode(plist_t node, KeyCache& keys)
 {
     switch (plist_get_node_type(node)) {
     case PLIST_BOOLEAN: {
@@ -122,15 +384,28 @@ QVariant fromNode(plist_t node)
     case PLIST_DATE: {
         int32_t sec = 0, usec = 0;
         plist_get_date_val(node, &sec, &usec);
-        const qint64 ms = kReferenceDateMsecs + qint64(sec) * 1000 + usec / 1000;
+        // The library splits the stored double into truncated seconds and the
+        // fraction's magnitude, so the fraction takes the sign of the seconds
+        // (only the last second before 2001 is ambiguous), and rounding undoes
+        // the truncation.
+        const qint64 fraction = qRound64(usec / 1000.0);
+        const qint64 ms = kReferenceDateMsecs + qint64(sec) * 1000 + (sec < 0 ? -fraction : fraction);
         return QDateTime::fromMSecsSinceEpoch(ms, QTimeZone::utc());
     }
     case PLIST_ARRAY: {
+        // Iterated: indexed access walks the list from the start every time.
         QVariantList list;
-        const uint32_t n = plist_array_get_size(node);
-        list.reserve(n);
-        for (uint32_t i = 0; i < n; ++i)
-            list.append(fromNode(plist_array_get_item(node, i)));
+        list.reserve(plist_array_get_size(node));
+        plist_array_iter it = nullptr;
+        plist_array_new_iter(node, &it);
+        for (;;) {
+            plist_t child = nullptr;
+            plist_array_next_item(node, it, &child);
+            if (!child)
+                break;
+            list.append(fromNode(child, keys));
+        }
+        free(it);
         return list;
     }
     case PLIST_DICT: {
@@ -145,7 +420,7 @@ QVariant fromNode(plist_t node)
                 free(key);
                 break;
             }
-            map.insert(QString::fromUtf8(key), fromNode(child));
+            map.insert(keys.get(key), fromNode(child, keys));
             free(key);
         }
         free(it);
@@ -165,25 +440,25 @@ QVariant fromNode(plist_t node)
 
 std::optional<QByteArray> serialize(const QVariant& value, Format format, QString* error)
 {
+    if (format == Format::Binary) {
+        BinaryWriter writer;
+        if (!writer.add(value, error))
+            return std::nullopt;
+        return writer.finish();
+    }
     Node root = toNode(value, error);
     if (!root)
         return std::nullopt;
     char* out = nullptr;
     uint32_t length = 0;
-    if (format == Format::Binary)
-        plist_to_bin(root.get(), &out, &length);
-    else
-        plist_to_xml(root.get(), &out, &length);
+    plist_to_xml(root.get(), &out, &length);
     if (!out) {
         if (error)
             *error = QStringLiteral("the property list could not be encoded");
         return std::nullopt;
     }
     QByteArray bytes(out, qsizetype(length));
-    if (format == Format::Binary)
-        plist_to_bin_free(out);
-    else
-        plist_to_xml_free(out);
+    plist_to_xml_free(out);
     return bytes;
 }
 
@@ -196,7 +471,8 @@ std::optional<QVariant> parse(const QByteArray& bytes)
     if (!root)
         return std::nullopt;
     Node holder(root);
-    return fromNode(root);
+    KeyCache keys;
+    return fromNode(root, keys);
 }
 
 } // namespace qor::plist
