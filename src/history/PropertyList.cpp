@@ -334,11 +334,35 @@ private:
     }
 };
 
-// Dictionary keys repeat in every element of a large array; sharing one
-// QString per distinct key saves an allocation per entry.
-class KeyCache {
+// Converts a parsed tree to Qt values. Nesting deeper than any real file
+// fails the whole parse rather than the stack.
+class Reader {
 public:
-    QString get(const char* key)
+    static constexpr int kMaxDepth = 512;
+    bool tooDeep = false;
+
+    QVariant fromNode(plist_t node)
+    {
+        const plist_type type = plist_get_node_type(node);
+        if (type != PLIST_ARRAY && type != PLIST_DICT)
+            return scalar(node, type);
+        if (m_depth >= kMaxDepth) {
+            tooDeep = true;
+            return {};
+        }
+        ++m_depth;
+        QVariant value = type == PLIST_ARRAY ? array(node) : dict(node);
+        --m_depth;
+        return value;
+    }
+
+private:
+    int m_depth = 0;
+    // Dictionary keys repeat in every element of a large array; sharing one
+    // QString per distinct key saves an allocation per entry.
+    std::vector<std::pair<QByteArray, QString>> m_keys;
+
+    QString key(const char* key)
     {
         for (const auto& [bytes, text] : m_keys)
             if (bytes == key)
@@ -349,92 +373,91 @@ public:
         return text;
     }
 
-private:
-    std::vector<std::pair<QByteArray, QString>> m_keys;
-};
-
-QVariant fromNode(plist_t node, KeyCache& keys)
-{
-    switch (plist_get_node_type(node)) {
-    case PLIST_BOOLEAN: {
-        uint8_t b = 0;
-        plist_get_bool_val(node, &b);
-        return bool(b);
-    }
-    case PLIST_UINT: {
-        uint64_t v = 0;
-        plist_get_uint_val(node, &v);
-        return qlonglong(v);
-    }
-    case PLIST_REAL: {
-        double v = 0;
-        plist_get_real_val(node, &v);
-        return v;
-    }
-    case PLIST_STRING: {
-        uint64_t len = 0;
-        const char* s = plist_get_string_ptr(node, &len);
-        return s ? QString::fromUtf8(s, qsizetype(len)) : QString(QLatin1String(""));
-    }
-    case PLIST_DATA: {
-        uint64_t len = 0;
-        const char* d = plist_get_data_ptr(node, &len);
-        return QByteArray(d, qsizetype(len));
-    }
-    case PLIST_DATE: {
-        int32_t sec = 0, usec = 0;
-        plist_get_date_val(node, &sec, &usec);
-        // The library splits the stored double into truncated seconds and the
-        // fraction's magnitude, so the fraction takes the sign of the seconds
-        // (only the last second before 2001 is ambiguous), and rounding undoes
-        // the truncation.
-        const qint64 fraction = qRound64(usec / 1000.0);
-        const qint64 ms = kReferenceDateMsecs + qint64(sec) * 1000 + (sec < 0 ? -fraction : fraction);
-        return QDateTime::fromMSecsSinceEpoch(ms, QTimeZone::utc());
-    }
-    case PLIST_ARRAY: {
+    QVariant array(plist_t node)
+    {
         // Iterated: indexed access walks the list from the start every time.
         QVariantList list;
         list.reserve(plist_array_get_size(node));
         plist_array_iter it = nullptr;
         plist_array_new_iter(node, &it);
-        for (;;) {
-            plist_t child = nullptr;
+        for (plist_t child = nullptr;;) {
             plist_array_next_item(node, it, &child);
-            if (!child)
+            if (!child || tooDeep)
                 break;
-            list.append(fromNode(child, keys));
+            list.append(fromNode(child));
         }
         free(it);
         return list;
     }
-    case PLIST_DICT: {
+
+    QVariant dict(plist_t node)
+    {
         QVariantMap map;
         plist_dict_iter it = nullptr;
         plist_dict_new_iter(node, &it);
         for (;;) {
-            char* key = nullptr;
+            char* k = nullptr;
             plist_t child = nullptr;
-            plist_dict_next_item(node, it, &key, &child);
-            if (!child) {
-                free(key);
+            plist_dict_next_item(node, it, &k, &child);
+            if (child && !tooDeep)
+                map.insert(key(k), fromNode(child));
+            free(k);
+            if (!child || tooDeep)
                 break;
-            }
-            map.insert(keys.get(key), fromNode(child, keys));
-            free(key);
         }
         free(it);
         return map;
     }
-    case PLIST_UID: {
-        uint64_t v = 0;
-        plist_get_uid_val(node, &v);
-        return QVariant::fromValue(PlistUid{ v });
+
+    static QVariant scalar(plist_t node, plist_type type)
+    {
+        switch (type) {
+        case PLIST_BOOLEAN: {
+            uint8_t b = 0;
+            plist_get_bool_val(node, &b);
+            return bool(b);
+        }
+        case PLIST_UINT: {
+            uint64_t v = 0;
+            plist_get_uint_val(node, &v);
+            return qlonglong(v);
+        }
+        case PLIST_REAL: {
+            double v = 0;
+            plist_get_real_val(node, &v);
+            return v;
+        }
+        case PLIST_STRING: {
+            uint64_t len = 0;
+            const char* s = plist_get_string_ptr(node, &len);
+            return s ? QString::fromUtf8(s, qsizetype(len)) : QString(QLatin1String(""));
+        }
+        case PLIST_DATA: {
+            uint64_t len = 0;
+            const char* d = plist_get_data_ptr(node, &len);
+            return QByteArray(d, qsizetype(len));
+        }
+        case PLIST_DATE: {
+            int32_t sec = 0, usec = 0;
+            plist_get_date_val(node, &sec, &usec);
+            // The library splits the stored double into truncated seconds and
+            // the fraction's magnitude, so the fraction takes the sign of the
+            // seconds (only the last second before 2001 is ambiguous), and
+            // rounding undoes the truncation.
+            const qint64 fraction = qRound64(usec / 1000.0);
+            const qint64 ms = kReferenceDateMsecs + qint64(sec) * 1000 + (sec < 0 ? -fraction : fraction);
+            return QDateTime::fromMSecsSinceEpoch(ms, QTimeZone::utc());
+        }
+        case PLIST_UID: {
+            uint64_t v = 0;
+            plist_get_uid_val(node, &v);
+            return QVariant::fromValue(PlistUid{ v });
+        }
+        default:
+            return {};
+        }
     }
-    default:
-        return {};
-    }
-}
+};
 
 } // namespace
 
@@ -471,8 +494,11 @@ std::optional<QVariant> parse(const QByteArray& bytes)
     if (!root)
         return std::nullopt;
     Node holder(root);
-    KeyCache keys;
-    return fromNode(root, keys);
+    Reader reader;
+    QVariant value = reader.fromNode(root);
+    if (reader.tooDeep)
+        return std::nullopt;
+    return value;
 }
 
 } // namespace qor::plist
