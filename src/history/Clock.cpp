@@ -1,6 +1,7 @@
 #include "Clock.h"
 
 #include <QTimeZone>
+#include <cmath>
 
 namespace qor {
 
@@ -10,8 +11,6 @@ std::function<Clock::TimePoint()>& source()
     static std::function<Clock::TimePoint()> fn;
     return fn;
 }
-
-constexpr qint64 kReferenceDateMsecs = 978307200000LL;  // 2001-01-01T00:00:00Z
 } // namespace
 
 Clock::TimePoint Clock::now()
@@ -60,6 +59,16 @@ QDateTime Clock::toDateTime(TimePoint when)
 QDateTime Clock::referenceDate()
 {
     return QDateTime::fromMSecsSinceEpoch(kReferenceDateMsecs, QTimeZone::utc());
+}
+
+double Clock::secondsSinceReferenceDate(const QDateTime& date)
+{
+    return double(date.toMSecsSinceEpoch() - kReferenceDateMsecs) / 1000.0;
+}
+
+QDateTime Clock::fromSecondsSinceReferenceDate(double seconds)
+{
+    return QDateTime::fromMSecsSinceEpoch(kReferenceDateMsecs + qint64(std::llround(seconds * 1000.0)), QTimeZone::utc());
 }
 
 } // namespace qor

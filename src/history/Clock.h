@@ -25,8 +25,12 @@ public:
 
     static TimePoint fromDateTime(const QDateTime& when);
     static QDateTime toDateTime(TimePoint when);
-    // 2001-01-01T00:00:00Z
+    // 2001-01-01T00:00:00Z, where property-list and archive dates count from.
+    static constexpr qint64 kReferenceDateMsecs = 978307200000LL;
     static QDateTime referenceDate();
+    static double secondsSinceReferenceDate(const QDateTime& date);
+    // UTC, to the nearest millisecond.
+    static QDateTime fromSecondsSinceReferenceDate(double seconds);
 };
 
 } // namespace qor

@@ -1,10 +1,10 @@
 #include "KeyedArchive.h"
 
+#include "Clock.h"
+
 #include <QDateTime>
 #include <QHash>
 #include <QSet>
-#include <QTimeZone>
-#include <cmath>
 
 namespace qor::keyedarchive {
 
@@ -16,7 +16,6 @@ const QString kClasses = QStringLiteral("$classes");
 const QString kObjects = QStringLiteral("NS.objects");
 const QString kKeys = QStringLiteral("NS.keys");
 const QString kNull = QStringLiteral("$null");
-constexpr qint64 kReferenceDateMsecs = 978307200000LL;
 // Deeper nesting than this is treated as damage; it also bounds the recursion.
 constexpr int kMaxDepth = 256;
 
@@ -57,7 +56,7 @@ public:
         if (type == QMetaType::QString || type == QMetaType::QByteArray || isScalar(value))
             return add(value);
         if (type == QMetaType::QDateTime) {
-            const double t = double(value.toDateTime().toMSecsSinceEpoch() - kReferenceDateMsecs) / 1000.0;
+            const double t = Clock::secondsSinceReferenceDate(value.toDateTime());
             return add(QVariantMap{ { kClass, QVariant::fromValue(classRef(QStringLiteral("NSDate"), {})) },
                                     { QStringLiteral("NS.time"), t } });
         }
@@ -276,7 +275,7 @@ private:
             const double t = dict.value(QStringLiteral("NS.time")).toDouble(&ok);
             if (!ok)
                 return fail(QStringLiteral("a date has no time"));
-            return QDateTime::fromMSecsSinceEpoch(kReferenceDateMsecs + qint64(std::llround(t * 1000.0)), QTimeZone::utc());
+            return Clock::fromSecondsSinceReferenceDate(t);
         }
         if (kindOf({ "NSString", "NSMutableString" }))
             return value(dict.value(QStringLiteral("NS.string")), depth).value_or(QVariant()).toString();

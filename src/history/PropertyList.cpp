@@ -1,5 +1,7 @@
 #include "PropertyList.h"
 
+#include "Clock.h"
+
 #include <QDateTime>
 #include <QHash>
 #include <cstring>
@@ -13,7 +15,7 @@ namespace qor::plist {
 
 namespace {
 
-constexpr qint64 kReferenceDateMsecs = 978307200000LL;  // property-list dates count from 2001-01-01Z
+constexpr qint64 kReferenceDateMsecs = Clock::kReferenceDateMsecs;
 
 struct NodeDeleter {
     void operator()(void* node) const { plist_free(static_cast<plist_t>(node)); }
@@ -62,11 +64,6 @@ bool unsupported(const QVariant& value, QString* error)
         *error = QStringLiteral("a property list cannot hold a value of type %1")
                      .arg(QString::fromLatin1(value.metaType().name() ? value.metaType().name() : "invalid"));
     return false;
-}
-
-double secondsSinceReferenceDate(const QDateTime& date)
-{
-    return double(date.toMSecsSinceEpoch() - kReferenceDateMsecs) / 1000.0;
 }
 
 // Used for the XML form only; the binary form has its own writer below.
@@ -276,7 +273,7 @@ private:
         }
         case Kind::Date: {
             QByteArray bytes;
-            appendDouble(bytes, 0x33, secondsSinceReferenceDate(value.toDateTime()));
+            appendDouble(bytes, 0x33, Clock::secondsSinceReferenceDate(value.toDateTime()));
             return push(std::move(bytes));
         }
         case Kind::Data: {

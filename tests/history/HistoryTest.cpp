@@ -35,13 +35,20 @@ QStringList unIds(const HistoryList& list)
     return out;
 }
 
+// A material with every optional field set.
+MaterialPtr markedChlorine()
+{
+    auto m = makeMaterial("1017", "Chlorine", "124");
+    m->toxicInhalationHazard = "X";
+    m->mayPolymerize = true;
+    return m;
+}
+
 } // namespace
 
 TEST_F(HistoryTest, RepeatedViewsMakeOneEntryKeepingItsFirstFields)
 {
-    auto chlorine = makeMaterial("1017", "Chlorine", "124");
-    chlorine->toxicInhalationHazard = "X";
-    chlorine->mayPolymerize = true;
+    const MaterialPtr chlorine = markedChlorine();
     manager.addToHistory(chlorine, utc("2024-03-01T10:00:00Z"));
     manager.addToHistory(chlorine, utc("2024-03-02T10:00:00Z"));
     Clock::setFixed(utc("2024-03-03T10:00:00Z"));
@@ -112,9 +119,7 @@ TEST_F(HistoryTest, AlphabeticalOrderIsCachedUntilTheHistoryChanges)
 
 TEST_F(HistoryTest, SavedHistoryReloadsExactlyFromBinaryAndXml)
 {
-    auto chlorine = makeMaterial("1017", "Chlorine", "124");
-    chlorine->toxicInhalationHazard = "X";
-    chlorine->mayPolymerize = true;
+    const MaterialPtr chlorine = markedChlorine();
     manager.addToHistory(chlorine, utc("2024-03-05T14:07:09Z"));
     manager.addToHistory(chlorine, utc("2024-03-06T08:00:00Z"));
     manager.addToHistory(makeMaterial("1005", "Ammonia, Anhydrous"), utc("2024-03-07T09:30:00Z"));
