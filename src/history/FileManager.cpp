@@ -70,6 +70,7 @@ bool pathExists(const QString& path)
 // Whole file via POSIX so the failure keeps its errno.
 std::optional<QByteArray> readAll(const QString& path, int* err)
 {
+    errno = 0;
     const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
     if (fd < 0) {
         *err = errno;
@@ -77,7 +78,7 @@ std::optional<QByteArray> readAll(const QString& path, int* err)
     }
     struct stat st;
     if (::fstat(fd, &st) != 0 || S_ISDIR(st.st_mode)) {
-        *err = S_ISDIR(st.st_mode) ? EISDIR : errno;
+        *err = errno ? errno : EISDIR;
         ::close(fd);
         return std::nullopt;
     }

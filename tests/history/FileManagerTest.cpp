@@ -61,6 +61,7 @@ TEST_F(FileManagerTest, WritesReplaceAtomicallyOwnerOnlyAndRefuseOverwriteSilent
     const QString dir = user.root.path() + "/Fresh/Sub";
     ASSERT_TRUE(files.writeFile("one", "a.dat", dir, false));
     EXPECT_EQ(modeOf(dir), 0700u);
+    EXPECT_EQ(modeOf(user.root.path() + "/Fresh"), 0700u);
     EXPECT_EQ(modeOf(dir + "/a.dat"), 0600u);
 
     EXPECT_FALSE(files.writeFile("two", "a.dat", dir, false));
