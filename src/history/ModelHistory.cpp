@@ -1,13 +1,21 @@
+#include "history/HistoryManager.h"
 #include "model/QORModel.h"
 
 namespace qor {
 
 void QORModel::loadViewedHistory()
 {
+    HistoryManager::sharedInstance()->loadHistory();
 }
 
 void QORModel::saveData()
 {
+    HistoryManager::sharedInstance()->saveHistory();
+}
+
+bool QORModel::serialize(const QVariant& value, const QString& filename)
+{
+    return serializePropertyList(value, homeFilePath(QStringLiteral("Documents"), filename));
 }
 
 } // namespace qor

@@ -48,12 +48,19 @@ void UserPaths::setDataDir(const QString& dir)
 
 bool UserPaths::ensureDir(const QString& dir)
 {
-    QFileInfo info(dir);
-    if (info.isDir())
-        return true;
-    if (!QDir().mkpath(dir))
-        return false;
-    QFile::setPermissions(dir, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    // Every folder made here is owner-only, the parents included.
+    QStringList missing;
+    for (QString d = QDir::cleanPath(QFileInfo(dir).absoluteFilePath()); !QFileInfo(d).isDir();
+         d = QFileInfo(d).absolutePath()) {
+        if (QFileInfo::exists(d) || d == QFileInfo(d).absolutePath())
+            return false;  // a file in the way, or nothing at the root
+        missing.prepend(d);
+    }
+    for (const QString& d : std::as_const(missing)) {
+        if (!QDir().mkdir(d) && !QFileInfo(d).isDir())
+            return false;
+        QFile::setPermissions(d, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    }
     return true;
 }
 

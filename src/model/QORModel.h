@@ -35,6 +35,9 @@ public:
     void releaseUnneededMemory();
     // Writes the user's data (the viewed history).
     void saveData();
+    // Binary property list into Documents/filename, atomically; false when
+    // the value cannot be serialised or written (nothing is reported).
+    bool serialize(const QVariant& value, const QString& filename);
 
     // --- fixed tables ---
     QMap<QString, FilterPtr> filters;

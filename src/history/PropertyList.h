@@ -1,0 +1,34 @@
+#pragma once
+// Property lists as Qt values, read and written through libplist.
+//   string  <-> QString        integer <-> qlonglong (int, uint also written)
+//   real    <-> double         boolean <-> bool
+//   date    <-> QDateTime      data    <-> QByteArray
+//   array   <-> QVariantList   dict    <-> QVariantMap
+//   UID (keyed archives) <-> PlistUid
+#include <QByteArray>
+#include <QMetaType>
+#include <QString>
+#include <QVariant>
+#include <optional>
+
+namespace qor {
+
+struct PlistUid {
+    quint64 value = 0;
+    bool operator==(const PlistUid&) const = default;
+};
+
+namespace plist {
+
+enum class Format { Binary, Xml };
+
+// Serialises a value; none when it holds something a property list cannot
+// (the reason goes to *error).
+std::optional<QByteArray> serialize(const QVariant& value, Format format = Format::Binary, QString* error = nullptr);
+// Parses binary or XML; none when the bytes are not a property list.
+std::optional<QVariant> parse(const QByteArray& bytes);
+
+} // namespace plist
+} // namespace qor
+
+Q_DECLARE_METATYPE(qor::PlistUid)

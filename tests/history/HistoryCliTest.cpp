@@ -1,0 +1,87 @@
+// qor-cli history, run in-process; each run starts like a new process.
+#include "Cli.h"
+#include "FixturePack.h"
+#include "HistoryTestSupport.h"
+
+#include "history/HistoryManager.h"
+#include "history/PropertyList.h"
+#include "model/QORModel.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTimeZone>
+
+using namespace qor;
+using namespace qor::test;
+
+namespace {
+
+struct HistoryCli : ::testing::Test {
+    FixturePack pack;
+    UserFolder user;
+
+    void SetUp() override
+    {
+        pack.setMaterials({ "CHLORINE^2.3^124^1017^1017^^", "AMMONIA, ANHYDROUS^2.3^125^1005^1005^^",
+                            "AMMONIA SOLUTION^8^154^2672^^^" });
+    }
+
+    int run(QStringList args, QJsonArray* json = nullptr)
+    {
+        delete QORModel::sharedInstance(false);
+        delete HistoryManager::sharedInstance(false);
+        QString out, err;
+        QTextStream o(&out), e(&err);
+        args.prepend(user.root.path());
+        args.prepend("--data-dir");
+        const int code = cli::run(args, o, e);
+        o.flush();
+        delete QORModel::sharedInstance(false);
+        delete HistoryManager::sharedInstance(false);
+        if (json)
+            *json = QJsonDocument::fromJson(out.toUtf8()).array();
+        return code;
+    }
+};
+
+} // namespace
+
+TEST_F(HistoryCli, ViewsAreRecordedSavedAndListed)
+{
+    Clock::setFixed(QDateTime(QDate(2024, 3, 5), QTime(13, 7, 9), QTimeZone::utc()));
+    EXPECT_EQ(run({ "history", "view", "1005" }), 0);
+    EXPECT_EQ(run({ "history", "view", "1005" }), 0);
+    EXPECT_EQ(run({ "history", "view", "chlorine" }), 0);
+
+    QJsonArray most;
+    ASSERT_EQ(run({ "--json", "history", "most-viewed" }, &most), 0);
+    ASSERT_EQ(most.size(), 2);
+    const QJsonObject first = most.at(0).toObject();
+    EXPECT_EQ(first.value("unId").toString(), "1005");
+    EXPECT_EQ(first.value("name").toString(), "Ammonia, Anhydrous");
+    EXPECT_EQ(first.value("viewCount").toInt(), 2);
+    const auto date = QDateTime::fromString(first.value("lastViewDate").toString(), Qt::ISODate);
+    EXPECT_EQ(date, Clock::currentDateTime());
+
+    QJsonArray all;
+    ASSERT_EQ(run({ "--json", "history", "all" }, &all), 0);
+    EXPECT_EQ(all.at(0).toObject().value("name").toString(), "Ammonia, Anhydrous");
+    EXPECT_EQ(run({ "history", "recent" }), 0);
+}
+
+TEST_F(HistoryCli, ClearEmptiesTheFileAndBadRequestsChangeNothing)
+{
+    ASSERT_EQ(run({ "history", "view", "1017" }), 0);
+    EXPECT_EQ(run({ "history", "view", "9999" }), 1);
+    EXPECT_EQ(run({ "history", "view" }), 2);
+    EXPECT_EQ(run({ "history", "sideways" }), 2);
+    EXPECT_EQ(run({ "history", "all", "extra" }), 2);
+    EXPECT_EQ(plist::parse(readBytes(user.library("viewedHistory.dat")))->toList().size(), 1);
+
+    EXPECT_EQ(run({ "history", "clear" }), 0);
+    EXPECT_EQ(plist::parse(readBytes(user.library("viewedHistory.dat")))->toList(), QVariantList());
+    QJsonArray recent;
+    EXPECT_EQ(run({ "--json", "history", "recent" }, &recent), 1);
+    EXPECT_TRUE(recent.isEmpty());
+}

@@ -1,0 +1,264 @@
+// The viewed history: recording, orderings, the history file, the legacy
+// import and keeping unreadable files.
+#include "FixturePack.h"
+#include "HistoryTestSupport.h"
+
+#include "history/DialogService.h"
+#include "history/HistoryManager.h"
+#include "history/PropertyList.h"
+#include "model/QORModel.h"
+
+using namespace qor;
+using namespace qor::test;
+
+namespace qor::test {
+QByteArray legacyArchiveXml();
+}
+
+namespace {
+
+struct HistoryTest : ::testing::Test {
+    UserFolder user;
+    DialogRecorder dialogs;
+    HistoryManager manager;
+    ViewedHistory& history = manager.viewedHistory();
+
+    QString historyFile() const { return user.library("viewedHistory.dat"); }
+    QString legacyFile() const { return user.documents("materialViewedHistory.dat"); }
+};
+
+QStringList unIds(const HistoryList& list)
+{
+    QStringList out;
+    for (const auto& e : list)
+        out << e->unId();
+    return out;
+}
+
+// A material with every optional field set.
+MaterialPtr markedChlorine()
+{
+    auto m = makeMaterial("1017", "Chlorine", "124");
+    m->toxicInhalationHazard = "X";
+    m->mayPolymerize = true;
+    return m;
+}
+
+} // namespace
+
+TEST_F(HistoryTest, RepeatedViewsMakeOneEntryKeepingItsFirstFields)
+{
+    const MaterialPtr chlorine = markedChlorine();
+    manager.addToHistory(chlorine, utc("2024-03-01T10:00:00Z"));
+    manager.addToHistory(chlorine, utc("2024-03-02T10:00:00Z"));
+    Clock::setFixed(utc("2024-03-03T10:00:00Z"));
+    auto renamed = makeMaterial("1017", "Chlorine, Renamed", "999");
+    manager.addToHistory(renamed);
+
+    ASSERT_EQ(history.objects.size(), 1);
+    const HistoryObjectPtr entry = manager.historyObjectForKey("1017");
+    ASSERT_TRUE(entry);
+    EXPECT_EQ(entry->viewCount(), 3);
+    EXPECT_EQ(entry->lastViewDate(), utc("2024-03-03T10:00:00Z"));
+    EXPECT_EQ(entry->name(), "Chlorine");
+    EXPECT_EQ(entry->material, chlorine) << "the entry keeps the material first viewed";
+    const QVariantMap& p = entry->properties;
+    EXPECT_EQ(p.value("guideId").toString(), "124");
+    EXPECT_EQ(p.value("placardId").toString(), "2.3");
+    EXPECT_EQ(p.value("tih").toString(), "X");
+    EXPECT_TRUE(p.value("mayPolymerize").toBool());
+    EXPECT_FALSE(p.contains("watchFlag"));
+
+    manager.addToHistory(makeMaterial("1005", "Ammonia"));
+    EXPECT_FALSE(manager.historyObjectForKey("1005")->properties.contains("tih"));
+}
+
+TEST_F(HistoryTest, AMaterialWithoutANameKeepsWhatCameBefore)
+{
+    auto nameless = makeMaterial("1005", QString());
+    manager.addToHistory(nameless, utc("2024-03-01T10:00:00Z"));
+    const HistoryObjectPtr entry = manager.historyObjectForKey("1005");
+    ASSERT_TRUE(entry);
+    EXPECT_EQ(entry->properties.keys(), QStringList({ "lastViewDate", "unId" }));
+    EXPECT_EQ(history.allAlpha().size(), 1);
+}
+
+TEST_F(HistoryTest, OrderingsLimitToTwelveAndBreakTiesByName)
+{
+    // 20 materials; names run backwards against UN ids so ties show their order.
+    for (int i = 0; i < 20; ++i) {
+        auto m = makeMaterial(QString::number(1001 + i), QStringLiteral("M%1").arg(19 - i, 2, 10, QChar('0')));
+        const QDateTime when = utc("2024-01-01T00:00:00Z").addSecs(i < 10 ? 0 : i * 60);
+        for (int v = 0; v <= i % 5; ++v)
+            manager.addToHistory(m, when);
+    }
+    EXPECT_EQ(history.allAlpha().size(), 20);
+    EXPECT_EQ(history.allAlpha().first()->name(), "M00");
+    ASSERT_EQ(history.recent().size(), 12);
+    EXPECT_EQ(unIds(history.recent()).mid(0, 10),
+              QStringList({ "1020", "1019", "1018", "1017", "1016", "1015", "1014", "1013", "1012", "1011" }));
+    EXPECT_EQ(unIds(history.recent()).mid(10), QStringList({ "1010", "1009" })) << "equal dates by name: M10, M11";
+    const HistoryList most = history.mostViewed();
+    ASSERT_EQ(most.size(), 12);
+    EXPECT_EQ(unIds(most).mid(0, 4), QStringList({ "1020", "1015", "1010", "1005" })) << "count 5, then by name";
+    EXPECT_EQ(most.at(11)->viewCount(), 3);
+}
+
+TEST_F(HistoryTest, AlphabeticalOrderIsCachedUntilTheHistoryChanges)
+{
+    manager.addToHistory(makeMaterial("1005", "b"));
+    manager.addToHistory(makeMaterial("1006", "B"));
+    EXPECT_EQ(unIds(history.allAlpha()), QStringList({ "1006", "1005" })) << "literal, case-sensitive";
+    manager.addToHistory(makeMaterial("1007", "A"));
+    EXPECT_EQ(history.allAlpha().size(), 3);
+    history.clearHistory();
+    EXPECT_TRUE(history.allAlpha().isEmpty());
+    EXPECT_TRUE(history.recent().isEmpty());
+    EXPECT_TRUE(history.mostViewed().isEmpty());
+}
+
+TEST_F(HistoryTest, SavedHistoryReloadsExactlyFromBinaryAndXml)
+{
+    const MaterialPtr chlorine = markedChlorine();
+    manager.addToHistory(chlorine, utc("2024-03-05T14:07:09Z"));
+    manager.addToHistory(chlorine, utc("2024-03-06T08:00:00Z"));
+    manager.addToHistory(makeMaterial("1005", "Ammonia, Anhydrous"), utc("2024-03-07T09:30:00Z"));
+    history.objects.value("1005")->properties.insert("watchFlag", true);
+    ASSERT_TRUE(manager.saveHistory());
+    const QByteArray binary = readBytes(historyFile());
+    ASSERT_TRUE(binary.startsWith("bplist00"));
+
+    const QByteArray xml = *plist::serialize(*plist::parse(binary), plist::Format::Xml);
+    for (const QByteArray& bytes : { binary, xml }) {
+        writeBytes(historyFile(), bytes);
+        HistoryManager reloaded;
+        reloaded.loadHistory();
+        ASSERT_EQ(reloaded.viewedHistory().objects.size(), 2);
+        for (const QString& unId : { QString("1005"), QString("1017") })
+            EXPECT_EQ(reloaded.historyObjectForKey(unId)->properties, manager.historyObjectForKey(unId)->properties);
+        const Material& partial = *reloaded.historyObjectForKey("1017")->material;
+        EXPECT_EQ(partial.name, "Chlorine");
+        EXPECT_EQ(partial.guideId, "124");
+        EXPECT_EQ(partial.placardId, "2.3");
+        EXPECT_EQ(partial.toxicInhalationHazard, "X");
+        EXPECT_TRUE(partial.mayPolymerize);
+        EXPECT_EQ(unIds(reloaded.viewedHistory().watching()), QStringList{ "1005" });
+        EXPECT_FALSE(reloaded.keepsUnreadableFile());
+    }
+    EXPECT_TRUE(dialogs.dialogs().isEmpty());
+}
+
+TEST_F(HistoryTest, AnEmptyHistorySavesAnEmptyArray)
+{
+    ASSERT_TRUE(manager.saveHistory());
+    EXPECT_EQ(plist::parse(readBytes(historyFile()))->toList(), QVariantList());
+}
+
+TEST_F(HistoryTest, AnUnreadableFileLoadsNothingAndIsKeptAsideNeverOverwritten)
+{
+    writeBytes(historyFile(), "this is not a property list");
+    manager.loadHistory();
+    EXPECT_TRUE(history.objects.isEmpty());
+    EXPECT_TRUE(dialogs.dialogs().isEmpty());
+    EXPECT_FALSE(QFile::exists(user.documents("materialViewedHistory.dat.bak")));
+
+    manager.addToHistory(makeMaterial("1005", "Ammonia"));
+    ASSERT_TRUE(manager.saveHistory());
+    ASSERT_TRUE(manager.saveHistory());
+    EXPECT_EQ(readBytes(historyFile() + ".unreadable"), "this is not a property list");
+    EXPECT_EQ(plist::parse(readBytes(historyFile()))->toList().size(), 1);
+
+    // A second bad file later on goes beside the first, not over it.
+    writeBytes(historyFile(), *plist::serialize(QVariantMap{ { "not", "an array" } }));
+    HistoryManager later;
+    later.loadHistory();
+    ASSERT_TRUE(later.saveHistory());
+    EXPECT_EQ(readBytes(historyFile() + ".unreadable"), "this is not a property list");
+    EXPECT_EQ(plist::parse(readBytes(historyFile() + ".unreadable.2"))->toMap().value("not"), "an array");
+}
+
+TEST_F(HistoryTest, HandEditedEntriesLoadWhatTheyCanAndTheFileIsKept)
+{
+    const QVariantList entries{
+        QVariantMap{ { "unId", "1005" }, { "name", "First" }, { "viewCount", 2 } },
+        QVariantMap{ { "name", "No UN id" } },
+        "not a dictionary",
+        QVariantMap{ { "unId", "1005" }, { "name", "Second" }, { "viewCount", "7" } },
+    };
+    writeBytes(historyFile(), *plist::serialize(entries, plist::Format::Xml));
+    manager.addToHistory(makeMaterial("2000", "Already here"));
+    manager.loadHistory();
+    EXPECT_EQ(history.objects.size(), 2) << "entries in memory stay unless replaced";
+    EXPECT_EQ(manager.historyObjectForKey("1005")->name(), "Second");
+    EXPECT_EQ(history.mostViewed().first()->viewCount(), 7);
+    ASSERT_TRUE(manager.saveHistory());
+    EXPECT_EQ(plist::parse(readBytes(historyFile() + ".unreadable"))->toList().size(), 4);
+}
+
+TEST_F(HistoryTest, LegacyArchiveIsImportedOnceAtItsModificationTimeThenMoved)
+{
+    const QByteArray legacy = legacyArchiveXml();
+    writeBytes(legacyFile(), legacy);
+    const QDateTime modified = utc("2019-05-04T03:02:01Z");
+    QFile f(legacyFile());
+    ASSERT_TRUE(f.open(QIODevice::ReadWrite) && f.setFileTime(modified, QFileDevice::FileModificationTime));
+    f.close();
+
+    manager.loadHistory();
+    EXPECT_EQ(unIds(history.allAlpha()), QStringList({ "1005", "1017" }));
+    for (const auto& e : history.history()) {
+        EXPECT_EQ(e->viewCount(), 1) << "old counts are not carried over";
+        EXPECT_EQ(e->lastViewDate(), modified);
+    }
+    EXPECT_EQ(manager.historyObjectForKey("1005")->properties.value("tih").toString(), "X");
+    EXPECT_FALSE(QFile::exists(legacyFile()));
+    EXPECT_EQ(readBytes(legacyFile() + ".bak"), legacy);
+    EXPECT_FALSE(QFile::exists(historyFile())) << "written at the next save, not by the import";
+    EXPECT_TRUE(manager.importedLegacyHistory());
+    EXPECT_TRUE(dialogs.dialogs().isEmpty());
+
+    ASSERT_TRUE(manager.saveHistory());
+    EXPECT_FALSE(manager.importedLegacyHistory());
+    HistoryManager next;
+    next.loadHistory();
+    EXPECT_EQ(next.viewedHistory().objects.size(), 2);
+}
+
+TEST_F(HistoryTest, WithBothFilesOnlyTheNewOneIsRead)
+{
+    writeBytes(legacyFile(), legacyArchiveXml());
+    writeBytes(historyFile(), *plist::serialize(QVariantList{ QVariantMap{ { "unId", "2000" }, { "name", "New" } } }));
+    manager.loadHistory();
+    EXPECT_EQ(unIds(history.history()), QStringList{ "2000" });
+    EXPECT_TRUE(QFile::exists(legacyFile()));
+    EXPECT_FALSE(QFile::exists(legacyFile() + ".bak"));
+}
+
+TEST_F(HistoryTest, AnUndecodableLegacyFileIsReportedAndStillMovedAside)
+{
+    writeBytes(legacyFile(), "garbage");
+    manager.loadHistory();
+    EXPECT_TRUE(history.objects.isEmpty());
+    ASSERT_EQ(dialogs.dialogs().size(), 1);
+    EXPECT_TRUE(dialogs.dialogs().at(0).message.startsWith("Unable to load data: "));
+    EXPECT_EQ(readBytes(legacyFile() + ".bak"), "garbage");
+}
+
+TEST_F(HistoryTest, TheModelLoadsTheHistoryWhileLoadingAndSavesItWithItsData)
+{
+    FixturePack pack;
+    pack.setMaterials({ "AMMONIA, ANHYDROUS^2.3^125^1005^1005^^" });
+    writeBytes(historyFile(), *plist::serialize(QVariantList{ QVariantMap{ { "unId", "1017" }, { "name", "Chlorine" } } }));
+    delete HistoryManager::sharedInstance(false);
+    {
+        ModelFixture model;
+        HistoryManager& shared = *HistoryManager::sharedInstance();
+        EXPECT_TRUE(shared.historyObjectForKey("1017"));
+        shared.addToHistory(QORModel::sharedInstance()->materials.first());
+        QORModel::sharedInstance()->saveData();
+        EXPECT_TRUE(QORModel::sharedInstance()->serialize(QVariantList{ 1 }, "model.dat"));
+    }
+    delete HistoryManager::sharedInstance(false);
+    EXPECT_EQ(plist::parse(readBytes(historyFile()))->toList().size(), 2);
+    EXPECT_TRUE(QFile::exists(user.documents("model.dat")));
+}
