@@ -1,5 +1,6 @@
 // qor: the GUI. Thin: options, the single running instance, and the QML shell.
 #include "AppDelegate.h"
+#include "history/DialogService.h"
 #include "PdfImageProvider.h"
 #include "model/QORModel.h"
 #include "model/Resources.h"
@@ -170,6 +171,10 @@ int main(int argc, char** argv)
     QORModel::sharedInstance();
     QORAppDelegate* delegate = QORAppDelegate::sharedInstance();
     delegate->setFormFactorOverride(ff);
+    QTimer::singleShot(100, delegate, &QORAppDelegate::loadGuideList);
+    DialogService::setPresenter([delegate](const QString& title, const QString& message, const QString& button) {
+        emit delegate->dialogRequested(title, message, button);
+    });
 
     // The history is written whenever the app is hidden and when it quits.
     QObject::connect(&app, &QGuiApplication::applicationStateChanged, delegate, [delegate](Qt::ApplicationState state) {

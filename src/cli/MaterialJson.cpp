@@ -1,5 +1,6 @@
 #include "MaterialJson.h"
 
+#include "history/HistoryManager.h"
 #include "model/QORModel.h"
 
 #include <QJsonArray>
@@ -92,7 +93,7 @@ MaterialList findMaterials(QORModel& model, const QString& arg)
 
 std::function<bool(const Material&)> viewedPredicate()
 {
-    return {};
+    return [](const Material& m) { return HistoryManager::sharedInstance()->historyObjectForKey(m.unId) != nullptr; };
 }
 
 QORModel& loadedModel()

@@ -2,6 +2,8 @@
 
 #include "model/Device.h"
 #include "model/QORModel.h"
+#include "pages/GuideViewFactory.h"
+#include "pages/InfoViewFactory.h"
 
 #include <QTimer>
 
@@ -137,8 +139,17 @@ void QORAppDelegate::saveData()
 
 void QORAppDelegate::applicationDidReceiveMemoryWarning()
 {
+    if (GuideViewFactory* guides = GuideViewFactory::sharedInstance(false))
+        guides->releaseGuides();
     if (QORModel* model = QORModel::sharedInstance(false))
         model->releaseUnneededMemory();
+}
+
+void QORAppDelegate::loadGuideList()
+{
+    // Creating the guide page builder loads the guide list.
+    GuideViewFactory::sharedInstance();
+    InfoViewFactory::sharedInstance();
 }
 
 } // namespace qor

@@ -51,6 +51,8 @@ public:
     Q_INVOKABLE bool openUrl(const QString& url);
     Q_INVOKABLE void saveData();
     Q_INVOKABLE void applicationDidReceiveMemoryWarning();
+    // Creates the guide and info page builders; scheduled 0.1 s after launch.
+    void loadGuideList();
 
 signals:
     void tabletChanged();
@@ -64,6 +66,8 @@ signals:
     void scrollToMaterialRequested(const qor::MaterialRef& material);
     void endSearchRequested();
     void sortImageRequested(const QString& image);
+    // A modal message for the user (file errors); the shell shows it.
+    void dialogRequested(const QString& title, const QString& message, const QString& button);
 
 private:
     explicit QORAppDelegate(QObject* parent = nullptr);

@@ -1,5 +1,6 @@
 // Qt Quick tests: the real QML screens, headless, on the bundled pack.
 #include "AppDelegate.h"
+#include "PdfImageProvider.h"
 #include "model/QORModel.h"
 
 #include <QQmlEngine>
@@ -24,6 +25,7 @@ public slots:
     {
         // The module's QML files are compiled into the binary under qrc:/QOR.
         engine->addImportPath(QStringLiteral("qrc:/"));
+        engine->addImageProvider(QString::fromLatin1(qor::PdfImageProvider::kProviderId), new qor::PdfImageProvider);
     }
 };
 

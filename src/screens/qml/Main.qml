@@ -38,6 +38,12 @@ ApplicationWindow {
         function onSearchRequested(text) { materialListPage.startSearch(text) }
         function onEndSearchRequested() { materialListPage.endSearch() }
         function onScrollToMaterialRequested(material) { materialListPage.scrollToMaterial(material) }
+        function onDialogRequested(title, message, button) {
+            messageDialog.title = title
+            messageText.text = message
+            dismissButton.text = button
+            messageDialog.open()
+        }
     }
 
     function openMaterial(material) {
@@ -154,6 +160,18 @@ ApplicationWindow {
             Layout.fillHeight: true
             active: window.tablet
             sourceComponent: AppDelegate.detailMaterial.valid ? detailComponent : emptyDetail
+        }
+    }
+
+    Dialog {
+        id: messageDialog
+        objectName: "messageDialog"
+        anchors.centerIn: Overlay.overlay
+        modal: true
+        width: Math.min(400, window.width - 40)
+        Label { id: messageText; width: parent.width; wrapMode: Text.Wrap }
+        footer: DialogButtonBox {
+            Button { id: dismissButton; DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole }
         }
     }
 
