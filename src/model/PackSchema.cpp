@@ -86,6 +86,23 @@ const QStringList& packGhsPictograms()
     return names;
 }
 
+const QStringList& packOtherArtwork()
+{
+    static const QStringList files = {
+        "diamond.pdf", "newtruck.pdf", "ppe_dust_mask.pdf", "search_icon.pdf", "guidecircle.pdf", "book.pdf",
+        "DownAccessoryWhite.png", "testtube.png", "placards.png", "Cloudy-Daytime-icon.png", "Cloudy-Nighttime-icon.png",
+        "111.png", "112.a.png", "112.b.png", "112.c.png", "114.png", "118.png", "121.png", "122.png", "123.png", "125.png",
+        "127.png", "128.png", "134.png", "136.png", "139.png", "143.png", "148.png", "153.a.png", "153.b.png", "158.png",
+        "163.png", "171.png" };
+    return files;
+}
+
+const QStringList& packOtherPages()
+{
+    static const QStringList pages = { "decon", "hazardclasses", "about", "about-ipad", "sendEmailBody" };
+    return pages;
+}
+
 const QStringList& specialProvisionPages()
 {
     static const QStringList pages = { "A", "B", "IB", "IP", "N", "W", "TP", "T", "numeric" };
