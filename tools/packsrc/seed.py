@@ -561,28 +561,24 @@ def provision_codes(hmt_lines):
     return codes
 
 
+PROVISION_TEXT = [  # by code prefix, most specific first
+    (('IB', 'IP'), 'Intermediate bulk containers (IBCs) are authorized for this material under condition %s; '
+                   'the IBC types and closures named for this code apply.'),
+    (('TP',), 'Portable tank provision %s: the degree of filling and the relief devices of the tank must meet the '
+              'conditions of this code.'),
+    (('T',), 'Portable tank instruction %s: minimum test pressure, shell thickness and bottom opening rules for UN '
+             'portable tanks carrying this material.'),
+    (('A',), 'Aircraft provision %s: a limit or packaging condition that applies when this material is carried by aircraft.'),
+    (('B',), 'Bulk packaging provision %s: additional conditions for tank cars, cargo tanks or bulk bins carrying this material.'),
+    (('N',), 'Non-bulk packaging provision %s: inner packaging and closure conditions for this material.'),
+    (('W',), 'Water transport provision %s: a stowage or packaging condition for carriage by vessel.'),
+]
+
+
 def provision_text(code):
-    if code.startswith('IB') or code.startswith('IP'):
-        return 'Sample text. Intermediate bulk containers (IBCs) are authorized for this material under condition %s; ' \
-               'the IBC types and closures named for this code apply.' % code
-    if code.startswith('TP'):
-        return 'Sample text. Portable tank provision %s: the degree of filling and the relief devices of the tank ' \
-               'must meet the conditions of this code.' % code
-    if code.startswith('T'):
-        return 'Sample text. Portable tank instruction %s: minimum test pressure, shell thickness and bottom ' \
-               'opening rules for UN portable tanks carrying this material.' % code
-    if code.startswith('A'):
-        return 'Sample text. Aircraft provision %s: a limit or packaging condition that applies when this ' \
-               'material is carried by aircraft.' % code
-    if code.startswith('B'):
-        return 'Sample text. Bulk packaging provision %s: additional conditions for tank cars, cargo tanks or ' \
-               'bulk bins carrying this material.' % code
-    if code.startswith('N'):
-        return 'Sample text. Non-bulk packaging provision %s: inner packaging and closure conditions for this ' \
-               'material.' % code
-    if code.startswith('W'):
-        return 'Sample text. Water transport provision %s: a stowage or packaging condition for carriage by ' \
-               'vessel.' % code
+    for prefixes, text in PROVISION_TEXT:
+        if code.startswith(prefixes):
+            return 'Sample text. ' + text % code
     zone = {'1': 'A', '2': 'B', '3': 'C', '4': 'D'}.get(code)
     if zone:
         return 'Sample text. This material is poisonous by inhalation, Hazard Zone %s.' % zone
