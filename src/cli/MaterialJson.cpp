@@ -48,21 +48,6 @@ QJsonObject materialJson(QORModel& model, Material& m)
         isoJson.insert(key, stringMapJson(iso.value(key)));
     o.insert(QStringLiteral("isolationDistances"), isoJson);
     o.insert(QStringLiteral("isolationConditions"), QJsonArray::fromStringList(iso.keys()));
-
-    // Chemistry in the order the detail screen asks (CAMEO and NPG set the CAS
-    // number the GHS lookup keys on), then shipping and incidents.
-    o.insert(QStringLiteral("cameoAttributes"), stringMapJson(model.getCameoAttributesForMaterial(m)));
-    o.insert(QStringLiteral("npgAttributes"), stringMapJson(model.getNPGAttributesForMaterial(m)));
-    o.insert(QStringLiteral("ghsAttributes"), stringMapJson(model.getGHSAttributesForMaterial(m)));
-    o.insert(QStringLiteral("wiserAttributes"), stringMapJson(model.getWiserAttributesForMaterial(m)));
-    const auto nfpa = model.nfpaForMaterial(m);
-    o.insert(QStringLiteral("nfpa"), nfpa ? QJsonValue(stringMapJson(*nfpa)) : QJsonValue(QJsonValue::Null));
-    o.insert(QStringLiteral("casNo"), m.casNo);
-    QJsonArray hmt;
-    for (const StringMap& entry : model.getHmtEntriesForMaterial(m))
-        hmt.append(stringMapJson(entry));
-    o.insert(QStringLiteral("hmtEntries"), hmt);
-    o.insert(QStringLiteral("incidentsSummary"), model.incidentsSummaryForMaterial(m));
     return o;
 }
 

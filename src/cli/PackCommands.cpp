@@ -1,4 +1,4 @@
-// qor-cli validate / import-incidents / info: checking, filling and
+// qor-cli validate / import-incidents / pack-info: checking, filling and
 // describing data packs.
 #include "Cli.h"
 #include "IncidentImport.h"
@@ -131,10 +131,10 @@ int countIncidents(const QString& path)
     return n;
 }
 
-int infoCommand(Context& ctx, QStringList args)
+int packInfoCommand(Context& ctx, QStringList args)
 {
     bool ok = false;
-    const QString dir = packDirFrom(ctx, args, QStringLiteral("info"), &ok);
+    const QString dir = packDirFrom(ctx, args, QStringLiteral("pack-info"), &ok);
     if (!ok)
         return UsageError;
     QString error;
@@ -177,7 +177,8 @@ const bool registered =
     && registerCommand({ QStringLiteral("import-incidents"),
                          QStringLiteral("import-incidents [--months 12] [--output FILE] FILE.csv...  build hazmat_incidents.dat from incident report files"),
                          importIncidentsCommand })
-    && registerCommand({ QStringLiteral("info"), QStringLiteral("info [DIR]          edition, build date and contents of a data pack"), infoCommand });
+    // "info" shows an information page; the pack's own description is "pack-info".
+    && registerCommand({ QStringLiteral("pack-info"), QStringLiteral("pack-info [DIR]     edition, build date and contents of a data pack"), packInfoCommand });
 
 } // namespace
 } // namespace qor::cli

@@ -2,6 +2,8 @@
 #include "Cli.h"
 #include "MiniPack.h"
 
+#include "model/PackManifest.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -216,6 +218,24 @@ TEST(PackValidator, CommandExitStatusAndJson)
 
     EXPECT_EQ(cli::run({ QStringLiteral("validate"), pack.path(QStringLiteral("nowhere")) }, out, err), 1);
     EXPECT_EQ(cli::run({ QStringLiteral("validate"), pack.dir(), pack.dir() }, out, err), 2);
+}
+
+TEST(PackInfo, ShowsTheManifestAndCounts)
+{
+    MiniPack pack;
+    QString outText, errText;
+    QTextStream out(&outText), err(&errText);
+    ASSERT_EQ(cli::run({ QStringLiteral("--json"), QStringLiteral("pack-info"), pack.dir() }, out, err), 0);
+    const QJsonObject o = QJsonDocument::fromJson(outText.toUtf8()).object();
+    EXPECT_EQ(o.value(QStringLiteral("edition")).toString(), QStringLiteral("test pack"));
+    EXPECT_TRUE(o.value(QStringLiteral("sample")).toBool());
+    EXPECT_EQ(o.value(QStringLiteral("notice")).toString(), PackManifest::sampleNotice());
+    EXPECT_EQ(o.value(QStringLiteral("materials")).toInt(), 3);
+    EXPECT_EQ(o.value(QStringLiteral("incidents")).toInt(), 1);
+
+    pack.removeFile(QStringLiteral("pack.json"));
+    EXPECT_EQ(cli::run({ QStringLiteral("pack-info"), pack.dir() }, out, err), 1);
+    EXPECT_TRUE(errText.contains(QStringLiteral("pack.json"))) << errText.toStdString();
 }
 
 } // namespace

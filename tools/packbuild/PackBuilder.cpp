@@ -12,6 +12,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <algorithm>
+#include <cstring>
 #include <sqlite3.h>
 
 namespace qor::packbuild {

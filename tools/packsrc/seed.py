@@ -389,6 +389,7 @@ def chemistry_sql(materials):
             lines.append('insert into unid_npgid values (%s,%s);' % (q(m.un), q(npg_ids[m.cas])))
 
     cameo_id = 0
+    nfpa_by_un = {}
     wiser_done = set()
     ghs_done = set()
     for m in materials:
@@ -413,9 +414,11 @@ def chemistry_sql(materials):
             key = '6.1' if m.tih and cls in ('3', '8', '4.3') else cls
             pict, stmts = GHS_BY_CLASS.get(key, GHS_BY_CLASS['9'])
             lines.append('insert into ghs values (%s,%s,%s);' % (q(m.cas), q(pict), q(stmts)))
-        hr = (NFPA_KNOWN.get(m.un) if m.base else None) or NFPA_BY_CLASS.get(cls, NFPA_BY_CLASS['9'])
-        if m.water and hr[3] == '':
-            hr = (hr[0], hr[1], hr[2], 'W')
+        # Ratings belong to the substance, so every name of a UN number shares them.
+        if m.un not in nfpa_by_un:
+            hr = NFPA_KNOWN.get(m.un) or NFPA_BY_CLASS.get(cls, NFPA_BY_CLASS['9'])
+            nfpa_by_un[m.un] = (hr[0], hr[1], hr[2], 'W') if m.water and hr[3] == '' else hr
+        hr = nfpa_by_un[m.un]
         lines.append('insert into nfpa values (%s);' % ','.join(q(v) for v in [m.un, m.display] + list(hr)))
     return lines
 
