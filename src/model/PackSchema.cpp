@@ -57,4 +57,76 @@ const DatabaseSchema* packDatabase(const QString& fileName)
     return nullptr;
 }
 
+const QStringList& packPlacardKeys()
+{
+    static const QStringList keys = { "1", "1.1", "1.2", "1.3", "1.4", "1.5", "1.6", "2.1", "2.2", "2.3", "3", "4.1",
+                                      "4.2", "4.3", "5.1", "5.2", "6.1", "6.1-tih", "6.1-toxic", "6.2", "7", "8", "9" };
+    return keys;
+}
+
+const QStringList& packInfoPages()
+{
+    static const QStringList pages = { "emergency", "control", "battery", "bleve", "criminal", "howto", "intermodal",
+                                       "pipelines", "clothing", "shippingdocuments", "protectiveactions", "factors",
+                                       "railcar", "placards", "roadtrailer", "safetyprecautions", "whotocall", "glossary",
+                                       "ied_safe_standoff_distance", "NPG", "GHS", "Isolation_Distances" };
+    return pages;
+}
+
+const QStringList& packSortImages()
+{
+    static const QStringList images = { "Sort-Alphabetically.pdf", "Sort-UnId.pdf", "Sort-Incidents.pdf",
+                                        "Sort-Guide.pdf", "Sort-Alphabetically.png" };
+    return images;
+}
+
+const QStringList& packGhsPictograms()
+{
+    static const QStringList names = { "ghs01", "ghs02", "ghs03", "ghs04", "ghs05", "ghs06", "ghs07", "ghs08", "ghs09" };
+    return names;
+}
+
+const QStringList& packOtherArtwork()
+{
+    static const QStringList files = {
+        "diamond.pdf", "newtruck.pdf", "ppe_dust_mask.pdf", "search_icon.pdf", "guidecircle.pdf", "book.pdf",
+        "DownAccessoryWhite.png", "testtube.png", "placards.png", "Cloudy-Daytime-icon.png", "Cloudy-Nighttime-icon.png",
+        "111.png", "112.a.png", "112.b.png", "112.c.png", "114.png", "118.png", "121.png", "122.png", "123.png", "125.png",
+        "127.png", "128.png", "134.png", "136.png", "139.png", "143.png", "148.png", "153.a.png", "153.b.png", "158.png",
+        "163.png", "171.png" };
+    return files;
+}
+
+const QStringList& packOtherPages()
+{
+    static const QStringList pages = { "decon", "hazardclasses", "about", "about-ipad", "sendEmailBody" };
+    return pages;
+}
+
+const QStringList& specialProvisionPages()
+{
+    static const QStringList pages = { "A", "B", "IB", "IP", "N", "W", "TP", "T", "numeric" };
+    return pages;
+}
+
+QString specialProvisionPage(const QString& code)
+{
+    // "TP" codes must be caught before the plain "T" ones.
+    if (code.startsWith(QLatin1Char('A')))
+        return QStringLiteral("A");
+    if (code.startsWith(QLatin1Char('B')))
+        return QStringLiteral("B");
+    if (code.startsWith(QLatin1String("IB")) || code.startsWith(QLatin1String("IP")))
+        return code.left(2);
+    if (code.startsWith(QLatin1Char('N')))
+        return QStringLiteral("N");
+    if (code.startsWith(QLatin1String("TP")))
+        return QStringLiteral("TP");
+    if (code.startsWith(QLatin1Char('T')))
+        return QStringLiteral("T");
+    if (code.startsWith(QLatin1Char('W')))
+        return QStringLiteral("W");
+    return QStringLiteral("numeric");
+}
+
 } // namespace qor

@@ -22,4 +22,17 @@ struct DatabaseSchema {
 const std::vector<DatabaseSchema>& packDatabases();
 const DatabaseSchema* packDatabase(const QString& fileName);
 
+// Resources the app names directly, so every pack must carry them.
+const QStringList& packPlacardKeys();      // each has "<key>.pdf"; "blank" shows placard 9
+const QStringList& packInfoPages();        // each has "<name>.html", in the app's order
+const QStringList& packSortImages();       // the four sort buttons and the PNG fallback
+const QStringList& packGhsPictograms();    // "ghs01" ... "ghs09", each with "<name>.pdf"
+const QStringList& packOtherArtwork();     // icons and placard-table rows, by file name
+const QStringList& packOtherPages();       // pages beside the information pages, without ".html"
+
+// Special provisions are documented on one page per group; the page (and
+// so its anchor) of a code follows the code's prefix.
+const QStringList& specialProvisionPages();
+QString specialProvisionPage(const QString& code);
+
 } // namespace qor

@@ -1,0 +1,439 @@
+#include "PackValidator.h"
+
+#include "model/PackManifest.h"
+#include "model/PackSchema.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QRegularExpression>
+#include <QSet>
+#include <QStringDecoder>
+#include <sqlite3.h>
+
+namespace qor::cli {
+
+QString Violation::toString() const
+{
+    return line > 0 ? QStringLiteral("%1:%2: %3").arg(file).arg(line).arg(reason) : QStringLiteral("%1: %2").arg(file, reason);
+}
+
+namespace {
+
+const QString kBodyTag = QStringLiteral("body style=\"background-color: #ffb045\">");
+constexpr int kMaxPerCheck = 25;  // a systematic fault is reported a few times, then counted
+
+// Read-only handle that never creates a file.
+class ReadOnlyDb {
+public:
+    explicit ReadOnlyDb(const QString& path)
+    {
+        if (sqlite3_open_v2(QFile::encodeName(path).constData(), &m_db, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK
+            || sqlite3_exec(m_db, "select count(*) from sqlite_master", nullptr, nullptr, nullptr) != SQLITE_OK) {
+            m_error = QString::fromUtf8(sqlite3_errmsg(m_db));
+            sqlite3_close(m_db);
+            m_db = nullptr;
+        }
+    }
+    ~ReadOnlyDb() { sqlite3_close(m_db); }
+    ReadOnlyDb(const ReadOnlyDb&) = delete;
+    ReadOnlyDb& operator=(const ReadOnlyDb&) = delete;
+    bool isOpen() const { return m_db != nullptr; }
+    QString error() const { return m_error; }
+
+    // Rows as text (NULL stays a null QString); nullopt when the query fails.
+    std::optional<QList<QStringList>> rows(const QString& sql) const
+    {
+        sqlite3_stmt* stmt = nullptr;
+        if (sqlite3_prepare_v2(m_db, sql.toUtf8().constData(), -1, &stmt, nullptr) != SQLITE_OK)
+            return std::nullopt;
+        QList<QStringList> out;
+        while (sqlite3_step(stmt) == SQLITE_ROW) {
+            QStringList row;
+            for (int c = 0; c < sqlite3_column_count(stmt); ++c) {
+                const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(stmt, c));
+                row << (text ? QString::fromUtf8(text) : QString());
+            }
+            out << row;
+        }
+        sqlite3_finalize(stmt);
+        return out;
+    }
+
+private:
+    sqlite3* m_db = nullptr;
+    QString m_error;
+};
+
+class Validator {
+public:
+    explicit Validator(const QString& dir) : m_dir(dir) {}
+
+    QList<Violation> run()
+    {
+        if (!QFileInfo(m_dir.path()).isDir()) {
+            add(m_dir.path(), 0, QStringLiteral("no such folder"));
+            return m_violations;
+        }
+        checkManifest();
+        const QSet<QString> guides = checkGuides();
+        checkMaterials(guides);
+        checkPages();
+        checkArtwork();
+        checkDatabases();
+        return m_violations;
+    }
+
+private:
+    void add(const QString& file, int line, const QString& reason) { m_violations.append({ file, line, reason }); }
+
+    // Adds under a per-check cap; returns the number of suppressed reports at the end.
+    struct Capped {
+        Validator* v;
+        QString file;
+        int count = 0;
+        void add(int line, const QString& reason)
+        {
+            if (++count <= kMaxPerCheck)
+                v->add(file, line, reason);
+        }
+        ~Capped()
+        {
+            if (count > kMaxPerCheck)
+                v->add(file, 0, QStringLiteral("%1 more problems of this kind not listed").arg(count - kMaxPerCheck));
+        }
+    };
+
+    bool exists(const QString& rel) const { return QFileInfo::exists(m_dir.filePath(rel)); }
+
+    std::optional<QString> readText(const QString& rel)
+    {
+        QFile file(m_dir.filePath(rel));
+        if (!file.open(QIODevice::ReadOnly)) {
+            add(rel, 0, QStringLiteral("missing or unreadable"));
+            return std::nullopt;
+        }
+        QStringDecoder decoder(QStringConverter::Utf8);
+        QString text = decoder.decode(file.readAll());
+        if (decoder.hasError())
+            add(rel, 0, QStringLiteral("not valid UTF-8"));
+        return text;
+    }
+
+    void requireFile(const QString& rel, const QString& what)
+    {
+        if (!exists(rel))
+            add(rel, 0, QStringLiteral("missing (%1)").arg(what));
+    }
+
+    void checkManifest()
+    {
+        const QString name = QString::fromLatin1(PackManifest::kFileName);
+        QString why;
+        const auto manifest = PackManifest::read(m_dir.path(), &why);
+        if (!manifest) {
+            add(name, 0, why);
+            return;
+        }
+        if (manifest->edition.isEmpty())
+            add(name, 0, QStringLiteral("no edition"));
+        const QStringList present = PackManifest::packFiles(m_dir.path());
+        const QSet<QString> presentSet(present.begin(), present.end());
+        for (auto it = manifest->files.cbegin(); it != manifest->files.cend(); ++it) {
+            if (!presentSet.contains(it.key()))
+                add(name, 0, QStringLiteral("lists %1, which is not in the pack").arg(it.key()));
+            else if (PackManifest::sha256(m_dir.filePath(it.key())) != it.value())
+                add(it.key(), 0, QStringLiteral("SHA-256 differs from pack.json"));
+        }
+        for (const QString& rel : present)
+            if (!manifest->files.contains(rel))
+                add(rel, 0, QStringLiteral("not listed in pack.json"));
+    }
+
+    QSet<QString> checkGuides()
+    {
+        const QString rel = QStringLiteral("guides.csv");
+        QSet<QString> ids;
+        const auto text = readText(rel);
+        if (!text)
+            return ids;
+        int line = 0;
+        for (const QString& l : text->split(QLatin1Char('\n'))) {
+            ++line;
+            if (l.isEmpty())
+                continue;
+            const QStringList f = l.split(QLatin1Char('^'));
+            if (f.size() < 2) {
+                add(rel, line, QStringLiteral("no \"^\" between guide number and title; the line is skipped"));
+                continue;
+            }
+            if (ids.contains(f.at(0)))
+                add(rel, line, QStringLiteral("guide %1 is listed twice; only the first is ever found").arg(f.at(0)));
+            ids.insert(f.at(0));
+            const QString page = f.at(0) + QStringLiteral(".html");
+            if (!exists(page))
+                add(rel, line, QStringLiteral("guide %1 has no page %2").arg(f.at(0), page));
+            else
+                m_guidePages << page;
+        }
+        return ids;
+    }
+
+    void checkMaterials(const QSet<QString>& guides)
+    {
+        const QString rel = QStringLiteral("chemicals_2024.csv");
+        const auto text = readText(rel);
+        if (!text)
+            return;
+        Capped report{ this, rel };
+        bool sectionSeen = false;
+        int line = 0;
+        for (const QString& l : text->split(QLatin1Char('\n'))) {
+            ++line;
+            if (l.isEmpty())
+                continue;
+            if (l.contains(QLatin1Char('\r')))
+                report.add(line, QStringLiteral("carriage return in the line; the last field would carry it"));
+            const QStringList f = l.split(QLatin1Char('^'));
+            if (f.size() == 6) {
+                report.add(line, QStringLiteral("6 fields; the app aborts on such a line (7 needed)"));
+                continue;
+            }
+            if (f.size() < 6) {
+                report.add(line, QStringLiteral("%1 fields; the app skips the line (7 needed)").arg(f.size()));
+                continue;
+            }
+            if (f.size() > 7)
+                report.add(line, QStringLiteral("%1 fields; a \"^\" in a name splits it (7 needed)").arg(f.size()));
+            const QString name = f.at(0), placard = f.at(1).trimmed(), unId = f.at(3);
+            QString guide = f.at(2);
+            if (guide.endsWith(QLatin1Char('P')))
+                guide = guide.left(3);
+            if (name.isEmpty())
+                report.add(line, QStringLiteral("no name"));
+            else if (name.at(0).isLetter())
+                sectionSeen = true;
+            else if (!sectionSeen)
+                report.add(line, QStringLiteral("\"%1\" starts with no letter and no letter-named material comes before it; "
+                                                "it would be in no alphabetical section").arg(name));
+            static const QRegularExpression fourDigits(QStringLiteral("^\\d{4}$"));
+            if (!fourDigits.match(unId).hasMatch())
+                report.add(line, QStringLiteral("UN number \"%1\" is not four digits").arg(unId));
+            if (!guides.contains(guide))
+                report.add(line, QStringLiteral("guide \"%1\" is not in guides.csv").arg(guide));
+            if (!placard.isEmpty() && !exists(placard + QStringLiteral(".pdf")))
+                report.add(line, QStringLiteral("placard \"%1\" has no artwork %1.pdf").arg(placard));
+        }
+    }
+
+    void checkPages()
+    {
+        QStringList required;
+        for (const QString& p : packInfoPages() + packOtherPages() + specialProvisionPages())
+            required << p + QStringLiteral(".html");
+        for (const QString& rel : required)
+            requireFile(rel, QStringLiteral("a page the app opens by name"));
+        for (const char* css : { "base.css", "dark.css", "emailbase.css" })
+            requireFile(QString::fromLatin1(css), QStringLiteral("a style sheet the pages use"));
+
+        for (const QString& rel : m_dir.entryList({ QStringLiteral("*.html") }, QDir::Files, QDir::Name)) {
+            const auto text = readText(rel);
+            if (!text)
+                continue;
+            if (rel == QLatin1String("sendEmailBody.html")) {
+                for (const char* slot : { "{ideviceName}", "{description}" })
+                    if (!text->contains(QLatin1String(slot)))
+                        add(rel, 0, QStringLiteral("no %1 placeholder").arg(QLatin1String(slot)));
+                continue;
+            }
+            if (!text->contains(kBodyTag))
+                add(rel, 0, QStringLiteral("no body tag of the form <%1; the text size cannot apply").arg(kBodyTag));
+            if (m_guidePages.contains(rel)) {
+                if (!text->contains(QLatin1String("base.css")))
+                    add(rel, 0, QStringLiteral("does not link base.css; the dark style cannot replace it"));
+                if (!text->contains(QLatin1String("##STYLE##")))
+                    add(rel, 0, QStringLiteral("no ##STYLE## slot; a mailed copy would lose its styles"));
+            }
+        }
+    }
+
+    void checkArtwork()
+    {
+        for (const QString& key : packPlacardKeys())
+            requireFile(key + QStringLiteral(".pdf"), QStringLiteral("placard %1").arg(key));
+        for (const QString& name : packGhsPictograms())
+            requireFile(name + QStringLiteral(".pdf"), QStringLiteral("GHS pictogram"));
+        for (const QString& name : packSortImages())
+            requireFile(name, QStringLiteral("sort button"));
+        for (const QString& name : packOtherArtwork())
+            requireFile(name, QStringLiteral("artwork the screens show"));
+    }
+
+    void checkSchema(const ReadOnlyDb& db, const DatabaseSchema& schema)
+    {
+        for (const TableSchema& t : schema.tables) {
+            const auto cols = db.rows(QStringLiteral("select name from pragma_table_info('%1') order by cid").arg(t.name));
+            if (!cols || cols->isEmpty()) {
+                add(schema.fileName, 0, QStringLiteral("table %1 is missing").arg(t.name));
+                continue;
+            }
+            for (qsizetype i = 0; i < t.columns.size(); ++i) {
+                const QString actual = i < cols->size() ? cols->at(i).at(0) : QString();
+                if (actual != t.columns.at(i)) {
+                    add(schema.fileName, 0, QStringLiteral("table %1: column %2 is \"%3\", expected \"%4\" (lookups read columns by position)")
+                                                .arg(t.name).arg(i).arg(actual, t.columns.at(i)));
+                    break;
+                }
+            }
+        }
+    }
+
+    // Rows of `table` where one of `columns` is NULL (optionally only when `when` holds).
+    void checkNotNull(const ReadOnlyDb& db, const QString& file, const QString& table, const QStringList& columns,
+                      const QString& when = QString())
+    {
+        QStringList tests;
+        for (const QString& c : columns)
+            tests << c + QStringLiteral(" is null");
+        QString sql = QStringLiteral("select rowid, %1 from %2 where (%3)").arg(columns.join(QLatin1Char(',')), table, tests.join(QStringLiteral(" or ")));
+        if (!when.isEmpty())
+            sql += QStringLiteral(" and (%1)").arg(when);
+        const auto rows = db.rows(sql + QStringLiteral(" order by rowid"));
+        if (!rows)
+            return;  // a missing table or column is reported by the schema check
+        Capped report{ this, file };
+        for (const QStringList& r : *rows) {
+            QStringList nulls;
+            for (qsizetype c = 0; c < columns.size(); ++c)
+                if (r.at(c + 1).isNull())
+                    nulls << columns.at(c);
+            report.add(r.at(0).toInt(), QStringLiteral("%1 row: %2 NULL, which the lookup does not survive").arg(table, nulls.join(QStringLiteral(", "))));
+        }
+    }
+
+    void checkDatabases()
+    {
+        std::unique_ptr<ReadOnlyDb> npg, cfr, inc;
+        for (const DatabaseSchema& schema : packDatabases()) {
+            if (!exists(schema.fileName)) {
+                add(schema.fileName, 0, QStringLiteral("missing; the app aborts at start-up"));
+                continue;
+            }
+            auto db = std::make_unique<ReadOnlyDb>(m_dir.filePath(schema.fileName));
+            if (!db->isOpen()) {
+                add(schema.fileName, 0, QStringLiteral("cannot be opened (%1); the app aborts at start-up").arg(db->error()));
+                continue;
+            }
+            checkSchema(*db, schema);
+            (schema.fileName == QLatin1String("npg.db") ? npg : schema.fileName == QLatin1String("cfr49.db") ? cfr : inc) = std::move(db);
+        }
+        if (inc)
+            checkNotNull(*inc, QStringLiteral("hazmat_incidents.dat"), QStringLiteral("incidents"), packDatabase(QStringLiteral("hazmat_incidents.dat"))->tables.front().columns.mid(1));
+        if (!npg)
+            return;
+        const QString file = QStringLiteral("npg.db");
+        for (const TableSchema& t : packDatabase(file)->tables) {
+            if (t.name == QLatin1String("iso_distances")) {
+                // Small-spill figures always; large-spill ones whenever the large isolation is given.
+                checkNotNull(*npg, file, t.name, t.columns.mid(2, 6));
+                checkNotNull(*npg, file, t.name, t.columns.mid(9, 5), t.columns.at(8) + QStringLiteral(" <> ''"));
+            } else {
+                checkNotNull(*npg, file, t.name, t.columns);
+            }
+        }
+        checkPlacardNames(*npg);
+        checkPictograms(*npg);
+        checkProvisionAnchors(*npg);
+        if (cfr)
+            checkSections(*npg, *cfr);
+    }
+
+    void checkPlacardNames(const ReadOnlyDb& npg)
+    {
+        Capped report{ this, QStringLiteral("npg.db") };
+        for (const QStringList& r : npg.rows(QStringLiteral("select min(rowid), name from dot_placards group by name")).value_or(QList<QStringList>()))
+            if (!r.at(1).isEmpty() && !exists(r.at(1) + QStringLiteral(".pdf")))
+                report.add(r.at(0).toInt(), QStringLiteral("dot_placards row: placard \"%1\" has no artwork %1.pdf").arg(r.at(1)));
+    }
+
+    void checkPictograms(const ReadOnlyDb& npg)
+    {
+        Capped report{ this, QStringLiteral("npg.db") };
+        for (const QStringList& r : npg.rows(QStringLiteral("select rowid, pictograms from ghs")).value_or(QList<QStringList>())) {
+            for (const QString& part : r.at(1).split(QLatin1Char(','))) {
+                const QString name = part.trimmed().toLower();
+                if (name.isEmpty() || name == QLatin1String("dgr") || name == QLatin1String("wng"))
+                    continue;
+                if (!exists(name + QStringLiteral(".pdf")))
+                    report.add(r.at(0).toInt(), QStringLiteral("ghs row: pictogram \"%1\" has no artwork %2.pdf").arg(part.trimmed(), name));
+            }
+        }
+    }
+
+    QSet<QString> anchorsOf(const QString& page)
+    {
+        if (const auto it = m_anchors.constFind(page); it != m_anchors.constEnd())
+            return *it;
+        static const QRegularExpression anchor(QStringLiteral("\\b(?:id|name)\\s*=\\s*[\"']([^\"']+)[\"']"));
+        QSet<QString> found;
+        QFile file(m_dir.filePath(page + QStringLiteral(".html")));
+        if (file.open(QIODevice::ReadOnly))
+            for (auto it = anchor.globalMatch(QString::fromUtf8(file.readAll())); it.hasNext();)
+                found.insert(it.next().captured(1));
+        m_anchors.insert(page, found);
+        return found;
+    }
+
+    void checkProvisionAnchors(const ReadOnlyDb& npg)
+    {
+        Capped report{ this, QStringLiteral("npg.db") };
+        const auto rows = npg.rows(QStringLiteral("select rowid, un_id, special_provisions from hmt"));
+        for (const QStringList& r : rows.value_or(QList<QStringList>())) {
+            for (const QString& code : r.at(2).split(QStringLiteral(", "), Qt::SkipEmptyParts)) {
+                const QString page = specialProvisionPage(code);
+                if (!anchorsOf(page).contains(code))
+                    report.add(r.at(0).toInt(), QStringLiteral("hmt row (UN %1): special provision \"%2\" has no anchor in %3.html")
+                                                    .arg(r.at(1), code, page));
+            }
+        }
+    }
+
+    void checkSections(const ReadOnlyDb& npg, const ReadOnlyDb& cfr)
+    {
+        QSet<QString> titled, texts;
+        for (const QStringList& r : npg.rows(QStringLiteral("select section_id from hmt_sections")).value_or(QList<QStringList>()))
+            titled.insert(r.at(0));
+        for (const QStringList& r : cfr.rows(QStringLiteral("select distinct section_id from cfr_text")).value_or(QList<QStringList>()))
+            texts.insert(r.at(0));
+        Capped report{ this, QStringLiteral("npg.db") };
+        const auto rows = npg.rows(QStringLiteral("select rowid, un_id, non_bulk, bulk from hmt"));
+        for (const QStringList& r : rows.value_or(QList<QStringList>())) {
+            for (const QString& raw : { r.at(2), r.at(3) }) {
+                const QString section = QString(raw).remove(QLatin1Char(' '));
+                if (section.isEmpty() || section == QLatin1String("None"))
+                    continue;
+                for (const QString& piece : section.split(QLatin1Char(','))) {
+                    if (!titled.contains(piece))
+                        report.add(r.at(0).toInt(), QStringLiteral("hmt row (UN %1): section %2 has no title in hmt_sections").arg(r.at(1), piece));
+                    if (!texts.contains(QStringLiteral("173.") + piece))
+                        report.add(r.at(0).toInt(), QStringLiteral("hmt row (UN %1): section 173.%2 has no text in cfr49.db").arg(r.at(1), piece));
+                }
+            }
+        }
+    }
+
+    QDir m_dir;
+    QList<Violation> m_violations;
+    QSet<QString> m_guidePages;
+    QHash<QString, QSet<QString>> m_anchors;
+};
+
+} // namespace
+
+QList<Violation> validatePack(const QString& dir)
+{
+    return Validator(dir).run();
+}
+
+} // namespace qor::cli

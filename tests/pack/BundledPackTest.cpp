@@ -1,0 +1,164 @@
+// The bundled sample pack: it validates, and it holds what the app hard-codes
+// and what its screens are meant to show.
+#include "FixturePack.h"
+#include "PackValidator.h"
+
+#include "model/PackManifest.h"
+#include "model/QORModel.h"
+#include "model/Resources.h"
+#include "model/Sqlite.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+#include <gtest/gtest.h>
+
+namespace qor::test {
+namespace {
+
+// The pack this build made, unless the environment names another.
+QString bundledPack()
+{
+    return qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
+}
+
+class BundledPack : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        Resources::setOverride(bundledPack());
+        m_model = std::make_unique<ModelFixture>();
+    }
+    void TearDown() override
+    {
+        m_model.reset();
+        Resources::setOverride(QString());
+    }
+    QORModel& model() { return *QORModel::sharedInstance(false); }
+
+    QSet<QString> namesUnder(const QString& unId)
+    {
+        QSet<QString> names;
+        for (const auto& m : std::as_const(model().materials))
+            if (m->unId == unId)
+                names.insert(m->name);
+        return names;
+    }
+    int rows(const QString& dbFile, const QString& sql)
+    {
+        const Database db = Database::openReadOnly(Resources::path(dbFile));
+        Statement st(db, sql);
+        int n = 0;
+        while (st.step())
+            ++n;
+        return n;
+    }
+
+    std::unique_ptr<ModelFixture> m_model;
+};
+
+TEST(BundledPackValidation, IsCleanAndMarkedSample)
+{
+    const auto violations = cli::validatePack(bundledPack());
+    QStringList lines;
+    for (const auto& v : violations)
+        lines << v.toString();
+    EXPECT_TRUE(violations.isEmpty()) << lines.join(QLatin1Char('\n')).toStdString();
+    const auto manifest = PackManifest::read(bundledPack());
+    ASSERT_TRUE(manifest);
+    EXPECT_TRUE(manifest->sample);
+    QFile guide(bundledPack() + QStringLiteral("/128.html"));
+    ASSERT_TRUE(guide.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(QString::fromUtf8(guide.readAll()).contains(PackManifest::sampleNotice()));
+}
+
+TEST_F(BundledPack, HoldsEveryIdTheAppHardCodes)
+{
+    EXPECT_GE(model().materials.size(), 3500);
+    QSet<QString> ids;
+    for (const auto& m : std::as_const(model().materials))
+        ids.insert(m->unId);
+    // The search ranking table, kept beside the seed of the pack.
+    QFile ranked(QFileInfo(QStringLiteral(__FILE__)).dir().filePath(QStringLiteral("../../tools/packsrc/ranked-ids.txt")));
+    ASSERT_TRUE(ranked.open(QIODevice::ReadOnly));
+    int rankedCount = 0;
+    for (const QByteArray& line : ranked.readAll().split('\n')) {
+        if (line.isEmpty() || line.startsWith('#'))
+            continue;
+        for (const QByteArray& id : line.split(':').at(1).simplified().split(' ')) {
+            ++rankedCount;
+            EXPECT_TRUE(ids.contains(QString::fromLatin1(id))) << id.constData();
+        }
+    }
+    EXPECT_EQ(rankedCount, 234);
+    for (const char* id : { "1005", "1017", "1040", "1050", "2186", "1052", "1079", "1051", "1088", "1089", "1841", "2332",
+                            "2789", "2790", "1715", "1090", "1541", "1091", "1648", "1718", "1130", "1286", "1288", "1201",
+                            "1267", "1270", "1272", "1202", "2800", "2794", "1754", "2795", "3028", "1956" })
+        EXPECT_TRUE(ids.contains(QString::fromLatin1(id))) << id;
+}
+
+TEST_F(BundledPack, GenericNamesCountOnlyUnderTheirOwnName)
+{
+    const QSet<QString> n1760 = namesUnder(QStringLiteral("1760")), n2810 = namesUnder(QStringLiteral("2810")),
+                        n1993 = namesUnder(QStringLiteral("1993"));
+    EXPECT_TRUE(n1760.contains(QStringLiteral("Corrosive Liquid, N.O.S.")));
+    EXPECT_TRUE(n2810.contains(QStringLiteral("Toxic Liquid, Organic, N.O.S.")));
+    EXPECT_TRUE(n2810.contains(QStringLiteral("Poisonous Liquid, Organic, N.O.S.")));
+    EXPECT_TRUE(n1993.contains(QStringLiteral("Combustible Liquid, N.O.S.")));
+    EXPECT_TRUE(n1993.contains(QStringLiteral("Flammable Liquid, N.O.S.")));
+    EXPECT_GE(n1760.size(), 3);
+    EXPECT_GE(n2810.size(), 4);
+    EXPECT_GE(n1993.size(), 4);
+    // Incidents of 1993 exist, yet only the two named entries show them.
+    for (const auto& m : std::as_const(model().materials))
+        if (m->unId == QLatin1String("1993"))
+            EXPECT_EQ(m->numIncidents() > 0, m->name == QLatin1String("Flammable Liquid, N.O.S.") || m->name == QLatin1String("Combustible Liquid, N.O.S.")) << m->name.toStdString();
+}
+
+TEST_F(BundledPack, EveryKindOfMarkAndName)
+{
+    bool tihX = false, gasList = false, water = false, meth = false, warfare = false, poly = false, digit = false, twoLetters = false;
+    for (const auto& m : std::as_const(model().materials)) {
+        tihX |= m->toxicInhalationHazard == QStringLiteral("X");
+        gasList |= m->toxicInhalationHazard && m->toxicInhalationHazard->contains(QLatin1Char(','));
+        water |= m->waterReactive == QStringLiteral("W");
+        meth |= m->methLab;
+        warfare |= m->chemicalWarefareAgent == QStringLiteral("Z");
+        poly |= m->mayPolymerize;
+        digit |= !m->name.isEmpty() && m->name.at(0).isDigit();
+        twoLetters |= m->name.size() == 2;
+    }
+    EXPECT_TRUE(tihX && gasList && water && meth && warfare && poly && digit && twoLetters);
+    for (const auto& f : std::as_const(model().filters))
+        EXPECT_FALSE(f->filteredArray->isEmpty()) << f->categoryAbbrev.toStdString();
+    QStringList guideIds;
+    for (const auto& g : std::as_const(model().guides))
+        guideIds << g->guideId;
+    if (guideIds.isEmpty()) {
+        model().loadGuideList();
+        for (const auto& g : std::as_const(model().guides))
+            guideIds << g->guideId;
+    }
+    EXPECT_EQ(guideIds.size(), 62);
+    EXPECT_EQ(guideIds.first(), QStringLiteral("111"));
+    EXPECT_EQ(guideIds.last(), QStringLiteral("172"));
+}
+
+TEST_F(BundledPack, ChlorineHasEverySection)
+{
+    // The statements the lookups run, with the values the detail screen of UN 1017 needs.
+    EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select * from iso_distances where un_id = 1017 ")), 0);
+    EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select name, cas_no from npg_guides, unid_npgid where un_number = 1017 and id = npgid")), 0);
+    EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select cameo_id from cameo where un_id = 1017 and name = 'CHLORINE'")), 0);
+    EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select pictograms from ghs where cas_no = '7782-50-5' ")), 0);
+    EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select health from nfpa where un_id = '1017' and name = 'Chlorine' ")), 0);
+    EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select symbols from hmt where un_id = 1017 and class = 2.3")), 0);
+    EXPECT_GT(rows(QStringLiteral("hazmat_incidents.dat"), QStringLiteral("select * from incidents where un_id = '1017'")), 0);
+    // Distances: water conditions and open-ended figures exist somewhere in the table.
+    EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select * from iso_distances where condition like '%Water%'")), 0);
+    EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select * from iso_distances where large_night_km = '11+'")), 0);
+    EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select distinct packing_group from hmt")), 3);
+}
+
+} // namespace
+} // namespace qor::test

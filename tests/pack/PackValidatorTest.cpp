@@ -1,0 +1,242 @@
+// qor-cli validate: each class of violation on a small pack broken on purpose.
+#include "Cli.h"
+#include "MiniPack.h"
+
+#include "model/PackManifest.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <gtest/gtest.h>
+
+namespace qor::test {
+namespace {
+
+#define EXPECT_REPORTS(list, file, text, ...) \
+    EXPECT_TRUE(reports(list, file, text, ##__VA_ARGS__)) << describe(list).join(QLatin1Char('\n')).toStdString()
+
+TEST(PackValidator, MiniPackIsValid)
+{
+    MiniPack pack;
+    EXPECT_TRUE(pack.validate().isEmpty()) << describe(pack.validate()).join(QLatin1Char('\n')).toStdString();
+}
+
+TEST(PackValidator, MaterialLinesNeedSevenFields)
+{
+    MiniPack pack;
+    pack.setMaterials({ "ACETONE^3^127^1090^^^", "ACETAL^3^127^1088^^", "ACROLEIN^6.1^131^1092", "AMMONIA^2.2^125^1005^X^^^W" });
+    pack.seal();
+    const auto v = pack.validate();
+    const QString f = QStringLiteral("chemicals_2024.csv");
+    EXPECT_REPORTS(v, f, QStringLiteral("6 fields; the app aborts"), 2);
+    EXPECT_REPORTS(v, f, QStringLiteral("4 fields; the app skips"), 3);
+    EXPECT_REPORTS(v, f, QStringLiteral("8 fields"), 4);
+    EXPECT_FALSE(reports(v, f, QString(), 1));
+}
+
+TEST(PackValidator, MaterialFieldsMustResolve)
+{
+    MiniPack pack;
+    pack.setMaterials({ "1,1-DIFLUOROETHANE^2.1^115^1030^^^", "ACETONE^3P^128P^1090^^^", "ACETAL^^127^88^^^\r" });
+    pack.seal();
+    const auto v = pack.validate();
+    const QString f = QStringLiteral("chemicals_2024.csv");
+    EXPECT_REPORTS(v, f, QStringLiteral("in no alphabetical section"), 1);
+    EXPECT_REPORTS(v, f, QStringLiteral("guide \"115\" is not in guides.csv"), 1);
+    EXPECT_REPORTS(v, f, QStringLiteral("guide \"128\" is not in guides.csv"), 2);  // the P is not part of the number
+    EXPECT_REPORTS(v, f, QStringLiteral("placard \"3P\" has no artwork"), 2);
+    EXPECT_REPORTS(v, f, QStringLiteral("not four digits"), 3);
+    EXPECT_REPORTS(v, f, QStringLiteral("carriage return"), 3);
+}
+
+TEST(PackValidator, GuidesNeedOneEntryAndAPage)
+{
+    MiniPack pack;
+    pack.setGuides({ "125^Gases - Corrosive", "127^Flammable Liquids", "129^One", "129^Two", "130" });
+    pack.removeFile(QStringLiteral("127.html"));
+    pack.seal();
+    const auto v = pack.validate();
+    const QString f = QStringLiteral("guides.csv");
+    EXPECT_REPORTS(v, f, QStringLiteral("guide 127 has no page 127.html"), 2);
+    EXPECT_REPORTS(v, f, QStringLiteral("listed twice"), 4);
+    EXPECT_REPORTS(v, f, QStringLiteral("the line is skipped"), 5);
+}
+
+TEST(PackValidator, TablesAndColumnOrder)
+{
+    MiniPack pack;
+    pack.sql(QStringLiteral("npg.db"), QStringLiteral(
+        "drop table hmt_sections; drop table iso_distances;"
+        "create table iso_distances (un_id text, condition text, small_isolation_ft text, small_isolation_m text)"));
+    pack.sql(QStringLiteral("hazmat_incidents.dat"), QStringLiteral("alter table incidents add column extra text"));
+    pack.seal();
+    const auto v = pack.validate();
+    EXPECT_REPORTS(v, QStringLiteral("npg.db"), QStringLiteral("table hmt_sections is missing"));
+    EXPECT_REPORTS(v, QStringLiteral("npg.db"), QStringLiteral("iso_distances: column 2 is \"small_isolation_ft\", expected \"small_isolation_m\""));
+    // A column added after the known ones breaks no positional read.
+    EXPECT_FALSE(reports(v, QStringLiteral("hazmat_incidents.dat"), QString()));
+}
+
+TEST(PackValidator, UnopenableDatabase)
+{
+    MiniPack pack;
+    pack.writeFile(QStringLiteral("cfr49.db"), "not a database");
+    pack.removeFile(QStringLiteral("hazmat_incidents.dat"));
+    pack.seal();
+    const auto v = pack.validate();
+    EXPECT_REPORTS(v, QStringLiteral("cfr49.db"), QStringLiteral("cannot be opened"));
+    EXPECT_REPORTS(v, QStringLiteral("hazmat_incidents.dat"), QStringLiteral("missing; the app aborts"));
+}
+
+TEST(PackValidator, NullsWhereTheLookupsDoNotGuard)
+{
+    MiniPack pack;
+    pack.sql(QStringLiteral("npg.db"), QStringLiteral(
+        // row 2: a small-spill figure missing
+        "insert into iso_distances values ('1017',NULL,'30',NULL,'0.1','0.1','0.2','0.1','','','','','','');"
+        // row 3: large isolation given, one large figure missing
+        "insert into iso_distances values ('1079',NULL,'30','100','0.1','0.1','0.2','0.1','300','1000',NULL,'1.0','4','2.5');"
+        // row 4: no large isolation, so the large figures are never read
+        "insert into iso_distances values ('1040',NULL,'30','100','0.1','0.1','0.2','0.1',NULL,NULL,NULL,NULL,NULL,NULL);"
+        "insert into hmt values ('1005','Ammonia','','2.2',NULL,'2.2','','','304','314','','','','','');"
+        "insert into nfpa values ('1005','Ammonia',NULL,'1','0','');"));
+    pack.sql(QStringLiteral("hazmat_incidents.dat"),
+             QStringLiteral("insert into incidents values ('S-2','1090','2025-01-02',NULL,'N','N','N','N','N','N','N')"));
+    pack.sql(QStringLiteral("cfr49.db"), QStringLiteral("insert into cfr_text values ('173.304','n3','<p>c</p>','s');"
+                                                        "insert into cfr_text values ('173.314','n4','<p>d</p>','s');"));
+    pack.sql(QStringLiteral("npg.db"), QStringLiteral("insert into hmt_sections values ('304','a'); insert into hmt_sections values ('314','b');"));
+    pack.seal();
+    const auto v = pack.validate();
+    const QString npg = QStringLiteral("npg.db");
+    EXPECT_REPORTS(v, npg, QStringLiteral("iso_distances row: small_isolation_ft NULL"), 2);
+    EXPECT_REPORTS(v, npg, QStringLiteral("iso_distances row: large_day_km NULL"), 3);
+    EXPECT_FALSE(reports(v, npg, QStringLiteral("iso_distances"), 4));
+    EXPECT_REPORTS(v, npg, QStringLiteral("hmt row: packing_group NULL"));
+    EXPECT_REPORTS(v, npg, QStringLiteral("nfpa row: health NULL"));
+    EXPECT_REPORTS(v, QStringLiteral("hazmat_incidents.dat"), QStringLiteral("Mode_of_Transportation NULL"), 2);
+}
+
+TEST(PackValidator, PagesNeedTheBodyTag)
+{
+    MiniPack pack;
+    pack.writeFile(QStringLiteral("bleve.html"), "<body style='background-color: #ffb045'>single quotes</body>");
+    pack.writeFile(QStringLiteral("125.html"), "<body style=\"background-color: #ffb045\">no style sheet, no mail slot</body>");
+    pack.writeFile(QStringLiteral("sendEmailBody.html"), "<p>{description}</p>");
+    pack.removeFile(QStringLiteral("Isolation_Distances.html"));
+    pack.removeFile(QStringLiteral("numeric.html"));
+    pack.seal();
+    const auto v = pack.validate();
+    EXPECT_REPORTS(v, QStringLiteral("bleve.html"), QStringLiteral("no body tag"));
+    EXPECT_REPORTS(v, QStringLiteral("125.html"), QStringLiteral("does not link base.css"));
+    EXPECT_REPORTS(v, QStringLiteral("125.html"), QStringLiteral("##STYLE##"));
+    EXPECT_REPORTS(v, QStringLiteral("sendEmailBody.html"), QStringLiteral("{ideviceName}"));
+    EXPECT_REPORTS(v, QStringLiteral("Isolation_Distances.html"), QStringLiteral("missing"));
+    EXPECT_REPORTS(v, QStringLiteral("numeric.html"), QStringLiteral("missing"));
+}
+
+TEST(PackValidator, ArtworkTheAppNames)
+{
+    MiniPack pack;
+    for (const char* f : { "6.1-tih.pdf", "Sort-Incidents.pdf", "Sort-Alphabetically.png", "ghs05.pdf", "153.b.png" })
+        pack.removeFile(QString::fromLatin1(f));
+    pack.sql(QStringLiteral("npg.db"), QStringLiteral("insert into ghs values ('1-1-1','GHS02, GHS10,Wng','H1');"
+                                                      "insert into dot_placards values ('1017','2.4');"));
+    pack.seal();
+    const auto v = pack.validate();
+    for (const char* f : { "6.1-tih.pdf", "Sort-Incidents.pdf", "Sort-Alphabetically.png", "ghs05.pdf", "153.b.png" })
+        EXPECT_REPORTS(v, QString::fromLatin1(f), QStringLiteral("missing"));
+    EXPECT_REPORTS(v, QStringLiteral("npg.db"), QStringLiteral("pictogram \"GHS10\" has no artwork ghs10.pdf"), 2);
+    EXPECT_FALSE(reports(v, QStringLiteral("npg.db"), QStringLiteral("\"Wng\"")));
+    EXPECT_REPORTS(v, QStringLiteral("npg.db"), QStringLiteral("placard \"2.4\" has no artwork"), 2);
+}
+
+TEST(PackValidator, SpecialProvisionsAndSectionsResolve)
+{
+    MiniPack pack;
+    // TP7 belongs on TP.html, not T.html; IB2 alone is not IB20; 211 has neither title nor text.
+    pack.sql(QStringLiteral("npg.db"),
+             QStringLiteral("insert into hmt values ('1203','Gasoline','','3','II','3','IB20, TP7, T4','150','211','242','5 L','60 L','B','','')"));
+    pack.writeFile(QStringLiteral("T.html"), "<body style=\"background-color: #ffb045\"><a name=\"T4\"></a><a name=\"TP7\"></a></body>");
+    pack.seal();
+    const auto v = pack.validate();
+    const QString npg = QStringLiteral("npg.db");
+    EXPECT_REPORTS(v, npg, QStringLiteral("\"TP7\" has no anchor in TP.html"), 2);
+    EXPECT_REPORTS(v, npg, QStringLiteral("\"IB20\" has no anchor in IB.html"), 2);
+    EXPECT_FALSE(reports(v, npg, QStringLiteral("\"T4\"")));
+    EXPECT_REPORTS(v, npg, QStringLiteral("section 211 has no title"), 2);
+    EXPECT_REPORTS(v, npg, QStringLiteral("section 173.211 has no text"), 2);
+}
+
+TEST(PackValidator, ManifestChecksums)
+{
+    MiniPack pack;
+    pack.writeFile(QStringLiteral("guides.csv"), "125^Changed after sealing\n127^a\n129^b\n");
+    pack.writeFile(QStringLiteral("extra.txt"), "unlisted");
+    pack.removeFile(QStringLiteral("dark.css"));
+    pack.writeFile(QStringLiteral(".stamp"), "");  // build stamps are not part of the pack
+    const auto v = pack.validate();
+    EXPECT_REPORTS(v, QStringLiteral("guides.csv"), QStringLiteral("SHA-256 differs"));
+    EXPECT_REPORTS(v, QStringLiteral("extra.txt"), QStringLiteral("not listed in pack.json"));
+    EXPECT_REPORTS(v, QStringLiteral("pack.json"), QStringLiteral("lists dark.css, which is not in the pack"));
+    EXPECT_FALSE(reports(v, QStringLiteral(".stamp"), QString()));
+
+    pack.writeFile(QStringLiteral("pack.json"), "{ not json");
+    EXPECT_REPORTS(pack.validate(), QStringLiteral("pack.json"), QStringLiteral("not a JSON object"));
+}
+
+TEST(PackValidator, ManyFaultsOfOneKindAreCapped)
+{
+    MiniPack pack;
+    QStringList lines;
+    for (int i = 0; i < 100; ++i)
+        lines << QStringLiteral("ACETONE^3^127^1090^^");
+    pack.setMaterials(lines);
+    pack.seal();
+    const auto v = pack.validate();
+    EXPECT_LT(v.size(), 40);
+    EXPECT_REPORTS(v, QStringLiteral("chemicals_2024.csv"), QStringLiteral("75 more problems"));
+}
+
+TEST(PackValidator, CommandExitStatusAndJson)
+{
+    MiniPack pack;
+    QString outText, errText;
+    QTextStream out(&outText), err(&errText);
+    EXPECT_EQ(cli::run({ QStringLiteral("validate"), pack.dir() }, out, err), 0) << outText.toStdString();
+    EXPECT_TRUE(outText.contains(QStringLiteral("the pack is valid")));
+
+    pack.removeFile(QStringLiteral("8.pdf"));
+    outText.clear();
+    EXPECT_EQ(cli::run({ QStringLiteral("--json"), QStringLiteral("validate"), pack.dir() }, out, err), 1);
+    const QJsonObject o = QJsonDocument::fromJson(outText.toUtf8()).object();
+    EXPECT_FALSE(o.value(QStringLiteral("valid")).toBool(true));
+    QStringList files;
+    for (const QJsonValue& item : o.value(QStringLiteral("violations")).toArray())
+        files << item.toObject().value(QStringLiteral("file")).toString();
+    EXPECT_TRUE(files.contains(QStringLiteral("8.pdf"))) << files.join(QLatin1Char(' ')).toStdString();
+
+    EXPECT_EQ(cli::run({ QStringLiteral("validate"), pack.path(QStringLiteral("nowhere")) }, out, err), 1);
+    EXPECT_EQ(cli::run({ QStringLiteral("validate"), pack.dir(), pack.dir() }, out, err), 2);
+}
+
+TEST(PackInfo, ShowsTheManifestAndCounts)
+{
+    MiniPack pack;
+    QString outText, errText;
+    QTextStream out(&outText), err(&errText);
+    ASSERT_EQ(cli::run({ QStringLiteral("--json"), QStringLiteral("pack-info"), pack.dir() }, out, err), 0);
+    const QJsonObject o = QJsonDocument::fromJson(outText.toUtf8()).object();
+    EXPECT_EQ(o.value(QStringLiteral("edition")).toString(), QStringLiteral("test pack"));
+    EXPECT_TRUE(o.value(QStringLiteral("sample")).toBool());
+    EXPECT_EQ(o.value(QStringLiteral("notice")).toString(), PackManifest::sampleNotice());
+    EXPECT_EQ(o.value(QStringLiteral("materials")).toInt(), 3);
+    EXPECT_EQ(o.value(QStringLiteral("incidents")).toInt(), 1);
+
+    pack.removeFile(QStringLiteral("pack.json"));
+    EXPECT_EQ(cli::run({ QStringLiteral("pack-info"), pack.dir() }, out, err), 1);
+    EXPECT_TRUE(errText.contains(QStringLiteral("pack.json"))) << errText.toStdString();
+}
+
+} // namespace
+} // namespace qor::test

@@ -1,0 +1,358 @@
+#include "PackBuilder.h"
+
+#include "cli/IncidentImport.h"
+#include "model/PackManifest.h"
+#include "model/PackSchema.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <algorithm>
+#include <cstring>
+#include <sqlite3.h>
+
+namespace qor::packbuild {
+
+namespace {
+// The incident summary always speaks of the last twelve months.
+constexpr int kIncidentMonths = 12;
+
+QStringList filesIn(const QString& dir, const QString& suffix)
+{
+    QStringList names = QDir(dir).entryList({ QStringLiteral("*") + suffix }, QDir::Files, QDir::Name);
+    return names;
+}
+
+QString htmlList(const QJsonArray& items)
+{
+    QString html = QStringLiteral("<ul>\n");
+    for (const QJsonValue& v : items)
+        html += QStringLiteral("<li>%1</li>\n").arg(v.toString().toHtmlEscaped());
+    return html + QStringLiteral("</ul>");
+}
+} // namespace
+
+PackBuilder::PackBuilder(const QString& sourceDir, const QString& outputDir)
+    : m_source(QDir(sourceDir).absolutePath()), m_output(QDir(outputDir).absolutePath())
+{
+}
+
+bool PackBuilder::run()
+{
+    if (!QFileInfo(m_source).isDir())
+        return fail(m_source, QStringLiteral("no such source folder"));
+    QDir output(m_output);
+    // Recreated every time so removed sources do not linger in the pack.
+    if (output.exists() && !output.removeRecursively())
+        return fail(m_output, QStringLiteral("cannot clear the output folder"));
+    if (!QDir().mkpath(m_output))
+        return fail(m_output, QStringLiteral("cannot create the output folder"));
+    return readPackInfo() && copyPlainFiles() && buildDatabases() && buildGuidePages() && buildInfoPages()
+        && buildProvisionPages() && buildArtwork() && writeManifest();
+}
+
+bool PackBuilder::fail(const QString& where, const QString& why)
+{
+    m_error = QStringLiteral("%1: %2").arg(QDir(m_source).relativeFilePath(where), why);
+    return false;
+}
+
+QString PackBuilder::src(const QString& rel) const
+{
+    return m_source + QLatin1Char('/') + rel;
+}
+
+QString PackBuilder::out(const QString& rel) const
+{
+    return m_output + QLatin1Char('/') + rel;
+}
+
+bool PackBuilder::readText(const QString& path, QString* text)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(path, file.errorString());
+    *text = QString::fromUtf8(file.readAll());
+    return true;
+}
+
+bool PackBuilder::writeBytes(const QString& rel, const QByteArray& bytes)
+{
+    QFile file(out(rel));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
+        return fail(out(rel), file.errorString());
+    return true;
+}
+
+bool PackBuilder::readPackInfo()
+{
+    const QString path = src(QStringLiteral("src/pack-info.json"));
+    QString text;
+    if (!readText(path, &text))
+        return false;
+    QJsonParseError pe;
+    const QJsonObject o = QJsonDocument::fromJson(text.toUtf8(), &pe).object();
+    if (pe.error != QJsonParseError::NoError)
+        return fail(path, pe.errorString());
+    m_edition = o.value(QStringLiteral("edition")).toString();
+    m_buildDate = o.value(QStringLiteral("buildDate")).toString();
+    m_sample = o.value(QStringLiteral("sample")).toBool(true);
+    for (const QJsonValue& v : o.value(QStringLiteral("sources")).toArray())
+        m_sources << v.toString();
+    if (m_edition.isEmpty() || !QDate::fromString(m_buildDate, Qt::ISODate).isValid())
+        return fail(path, QStringLiteral("needs an \"edition\" and a \"buildDate\" (yyyy-mm-dd)"));
+    m_packValues = { { QStringLiteral("edition"), m_edition.toHtmlEscaped() },
+                     { QStringLiteral("buildDate"), m_buildDate },
+                     { QStringLiteral("notice"), m_sample ? PackManifest::sampleNotice().toHtmlEscaped() : QString() } };
+    return readText(src(QStringLiteral("src/page.html")), &m_pageTemplate);
+}
+
+bool PackBuilder::copyPlainFiles()
+{
+    // Everything outside src/ is a resource as it stands.
+    QDirIterator it(m_source, QDir::Files, QDirIterator::Subdirectories);
+    QStringList files;
+    while (it.hasNext())
+        files << QDir(m_source).relativeFilePath(it.next());
+    files.sort();
+    for (const QString& rel : std::as_const(files)) {
+        if (rel.startsWith(QLatin1String("src/")) || rel == QLatin1String("README.md"))
+            continue;
+        QDir().mkpath(QFileInfo(out(rel)).path());
+        if (!QFile::copy(src(rel), out(rel)))
+            return fail(src(rel), QStringLiteral("cannot copy into the pack"));
+    }
+    return true;
+}
+
+bool PackBuilder::runSqlFile(sqlite3* db, const QString& path)
+{
+    QString text;
+    if (!readText(path, &text))
+        return false;
+    const QByteArray sql = text.toUtf8();
+    const char* pos = sql.constData();
+    const char* end = pos + sql.size();
+    while (pos < end) {
+        sqlite3_stmt* stmt = nullptr;
+        const char* tail = nullptr;
+        const int line = 1 + int(std::count(sql.constData(), pos + std::strspn(pos, " \t\r\n"), '\n'));
+        if (sqlite3_prepare_v2(db, pos, int(end - pos), &stmt, &tail) != SQLITE_OK)
+            return fail(path + QLatin1Char(':') + QString::number(line), QString::fromUtf8(sqlite3_errmsg(db)));
+        if (stmt) {
+            const int rc = sqlite3_step(stmt);
+            sqlite3_finalize(stmt);
+            if (rc != SQLITE_DONE && rc != SQLITE_ROW)
+                return fail(path + QLatin1Char(':') + QString::number(line), QString::fromUtf8(sqlite3_errmsg(db)));
+        }
+        pos = tail;
+    }
+    return true;
+}
+
+bool PackBuilder::buildDatabases()
+{
+    for (const DatabaseSchema& schema : packDatabases()) {
+        const QString path = out(schema.fileName);
+        sqlite3* db = nullptr;
+        if (sqlite3_open(QFile::encodeName(path).constData(), &db) != SQLITE_OK) {
+            sqlite3_close(db);
+            return fail(path, QStringLiteral("cannot create"));
+        }
+        auto exec = [&](const QString& sql) {
+            char* err = nullptr;
+            const bool ok = sqlite3_exec(db, sql.toUtf8().constData(), nullptr, nullptr, &err) == SQLITE_OK;
+            if (!ok)
+                fail(path, QString::fromUtf8(err ? err : "sql error"));
+            sqlite3_free(err);
+            return ok;
+        };
+        bool ok = exec(QStringLiteral("pragma journal_mode=off; begin"));
+        for (const TableSchema& t : schema.tables)
+            ok = ok && exec(t.createSql());
+        ok = ok && exec(QStringLiteral("commit"));
+        if (ok && schema.fileName == QLatin1String("hazmat_incidents.dat")) {
+            QStringList reports;
+            const QString dir = src(QStringLiteral("src/incidents"));
+            for (const QString& name : filesIn(dir, QStringLiteral(".csv")))
+                reports << dir + QLatin1Char('/') + name;
+            QString why;
+            const auto imported = incidents::readIncidentReports(reports, kIncidentMonths, &why);
+            ok = imported ? incidents::insertIncidents(db, imported->incidents, &why) : false;
+            if (!ok)
+                fail(dir, why);
+        }
+        // Table rows: src/<database file name>/*.sql, in name order.
+        const QString sqlDir = src(QStringLiteral("src/") + schema.fileName);
+        if (ok)
+            ok = exec(QStringLiteral("begin"));
+        for (const QString& name : filesIn(sqlDir, QStringLiteral(".sql")))
+            ok = ok && runSqlFile(db, sqlDir + QLatin1Char('/') + name);
+        ok = ok && exec(QStringLiteral("commit")) && exec(QStringLiteral("vacuum"));
+        sqlite3_close(db);
+        if (!ok)
+            return false;
+    }
+    return true;
+}
+
+bool PackBuilder::fillTemplate(QString* text, const QHash<QString, QString>& values, const QString& where)
+{
+    static const QRegularExpression placeholder(QStringLiteral("\\{\\{([A-Za-z]+)\\}\\}"));
+    QString result;
+    qsizetype last = 0;
+    for (auto it = placeholder.globalMatch(*text); it.hasNext();) {
+        const auto m = it.next();
+        const auto value = values.constFind(m.captured(1));
+        if (value == values.constEnd())
+            return fail(where, QStringLiteral("unknown placeholder {{%1}}").arg(m.captured(1)));
+        result += QStringView(*text).mid(last, m.capturedStart() - last);
+        result += *value;
+        last = m.capturedEnd();
+    }
+    result += QStringView(*text).mid(last);
+    *text = result;
+    return true;
+}
+
+bool PackBuilder::writePage(const QString& name, const QString& title, const QString& body, const QString& where)
+{
+    // Pack values go into the body first; the body then goes into the frame
+    // verbatim, so a body cannot fill in the frame's own placeholders.
+    QString filledBody = body;
+    if (!fillTemplate(&filledBody, m_packValues, where))
+        return false;
+    QHash<QString, QString> values = m_packValues;
+    values.insert(QStringLiteral("title"), title.toHtmlEscaped());
+    const QString framePath = src(QStringLiteral("src/page.html"));
+    const qsizetype at = m_pageTemplate.indexOf(QLatin1String("{{body}}"));
+    if (at < 0)
+        return fail(framePath, QStringLiteral("no {{body}} placeholder"));
+    QString head = m_pageTemplate.left(at), tail = m_pageTemplate.mid(at + 8);
+    if (!fillTemplate(&head, values, framePath) || !fillTemplate(&tail, values, framePath))
+        return false;
+    return writeBytes(name + QStringLiteral(".html"), (head + filledBody + tail).toUtf8());
+}
+
+bool PackBuilder::buildGuidePages()
+{
+    const QString jsonPath = src(QStringLiteral("src/guides.json"));
+    QString json, guideTemplate, csv;
+    if (!readText(jsonPath, &json) || !readText(src(QStringLiteral("src/guide.html")), &guideTemplate)
+        || !readText(src(QStringLiteral("guides.csv")), &csv))
+        return false;
+    QJsonParseError pe;
+    const QJsonObject root = QJsonDocument::fromJson(json.toUtf8(), &pe).object();
+    if (pe.error != QJsonParseError::NoError)
+        return fail(jsonPath, pe.errorString());
+    const QJsonObject guides = root.value(QStringLiteral("guides")).toObject();
+    const QJsonObject families = root.value(QStringLiteral("families")).toObject();
+    int lineNumber = 0;
+    for (const QString& line : csv.split(QLatin1Char('\n'))) {
+        ++lineNumber;
+        const QStringList fields = line.split(QLatin1Char('^'));
+        if (fields.size() < 2)
+            continue;
+        const QString id = fields.at(0), title = fields.at(1);
+        const QString where = src(QStringLiteral("guides.csv")) + QLatin1Char(':') + QString::number(lineNumber);
+        const QString familyName = guides.value(id).toString();
+        const QJsonObject family = families.value(familyName).toObject();
+        if (family.isEmpty())
+            return fail(where, QStringLiteral("guide %1 has no wording family in src/guides.json").arg(id));
+        QHash<QString, QString> values = { { QStringLiteral("id"), id }, { QStringLiteral("title"), title.toHtmlEscaped() } };
+        for (const char* key : { "fire", "health", "clothing", "evacuation", "fireResponse", "spill" })
+            values.insert(QString::fromLatin1(key), htmlList(family.value(QLatin1String(key)).toArray()));
+        QStringList see;
+        for (const QJsonValue& v : family.value(QStringLiteral("see")).toArray())
+            if (v.toString() != id)
+                see << QStringLiteral("<a href=\"showguide://%1\">Guide %1</a>").arg(v.toString());
+        values.insert(QStringLiteral("see"), see.isEmpty() ? QString()
+                                                            : QStringLiteral("<p class=\"see-also\">See also: %1</p>").arg(see.join(QStringLiteral(", "))));
+        QString body = guideTemplate;
+        if (!fillTemplate(&body, values, src(QStringLiteral("src/guide.html")))
+            || !writePage(id, QStringLiteral("Guide %1").arg(id), body, where))
+            return false;
+    }
+    return true;
+}
+
+bool PackBuilder::buildInfoPages()
+{
+    static const QRegularExpression heading(QStringLiteral("<h1[^>]*>(.*?)</h1>"), QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression tags(QStringLiteral("<[^>]*>"));
+    const QString dir = src(QStringLiteral("src/pages"));
+    for (const QString& name : filesIn(dir, QStringLiteral(".html"))) {
+        QString body;
+        if (!readText(dir + QLatin1Char('/') + name, &body))
+            return false;
+        const auto m = heading.match(body);
+        if (!m.hasMatch())
+            return fail(dir + QLatin1Char('/') + name, QStringLiteral("a page needs an <h1> title"));
+        QString title = m.captured(1);
+        title.remove(tags);
+        if (!writePage(QFileInfo(name).completeBaseName(), title, body, dir + QLatin1Char('/') + name))
+            return false;
+    }
+    return true;
+}
+
+bool PackBuilder::buildProvisionPages()
+{
+    // Page headings of the provision groups.
+    static const QHash<QString, QString> titles = {
+        { QStringLiteral("A"), QStringLiteral("Aircraft Transportation") },
+        { QStringLiteral("B"), QStringLiteral("Bulk Packaging") },
+        { QStringLiteral("IB"), QStringLiteral("Intermediate Bulk Containers") },
+        { QStringLiteral("IP"), QStringLiteral("Intermediate Bulk Containers") },
+        { QStringLiteral("N"), QStringLiteral("Non-Bulk Packaging") },
+        { QStringLiteral("W"), QStringLiteral("Water Transportation") },
+        { QStringLiteral("TP"), QStringLiteral("IM and UN Specification Portable Tanks") },
+        { QStringLiteral("T"), QStringLiteral("UN Portable Tanks") },
+        { QStringLiteral("numeric"), QStringLiteral("Numeric Provisions") },
+    };
+    const QString path = src(QStringLiteral("src/provisions.csv"));
+    QString csv;
+    if (!readText(path, &csv))
+        return false;
+    QHash<QString, QString> bodies;
+    int lineNumber = 0;
+    for (const QString& line : csv.split(QLatin1Char('\n'))) {
+        ++lineNumber;
+        if (line.trimmed().isEmpty())
+            continue;
+        const qsizetype caret = line.indexOf(QLatin1Char('^'));
+        const QString code = line.left(caret).trimmed();
+        if (caret <= 0 || code.contains(QLatin1Char(' ')))
+            return fail(path + QLatin1Char(':') + QString::number(lineNumber), QStringLiteral("expected CODE^TEXT"));
+        // The page jumps to a provision by "#CODE", so both anchor forms are given.
+        bodies[specialProvisionPage(code)] += QStringLiteral("<div class=\"provision\" id=\"%1\"><a name=\"%1\"></a>\n<h3>%1</h3>\n<p>%2</p>\n</div>\n")
+                                                  .arg(code, line.mid(caret + 1).trimmed().toHtmlEscaped());
+    }
+    for (const QString& page : specialProvisionPages()) {
+        const QString title = QStringLiteral("Special Provisions: %1").arg(titles.value(page));
+        const QString body = QStringLiteral("<h1>%1</h1>\n%2").arg(title, bodies.value(page, QStringLiteral("<p>No provisions of this group are used in this pack.</p>\n")));
+        if (!writePage(page, title, body, path))
+            return false;
+    }
+    return true;
+}
+
+bool PackBuilder::writeManifest()
+{
+    PackManifest manifest;
+    manifest.edition = m_edition;
+    manifest.buildDate = m_buildDate;
+    manifest.sample = m_sample;
+    manifest.sources = m_sources;
+    QString why;
+    if (!manifest.writeWithChecksums(m_output, &why))
+        return fail(out(QString::fromLatin1(PackManifest::kFileName)), why);
+    return true;
+}
+
+} // namespace qor::packbuild

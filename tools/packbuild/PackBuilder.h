@@ -1,0 +1,53 @@
+#pragma once
+// Turns the pack sources (resources/) into the data pack the app reads.
+// Every step is deterministic: no clock, no random numbers, sorted inputs.
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+struct sqlite3;
+
+namespace qor::packbuild {
+
+class PackBuilder {
+public:
+    PackBuilder(const QString& sourceDir, const QString& outputDir);
+
+    // Runs every step; on failure error() says "file[:line]: reason".
+    bool run();
+    QString error() const { return m_error; }
+
+private:
+    bool readPackInfo();
+    bool copyPlainFiles();
+    bool buildDatabases();
+    bool buildGuidePages();
+    bool buildInfoPages();
+    bool buildProvisionPages();
+    bool buildArtwork();
+    bool writeManifest();
+
+    // Fills {{name}} placeholders; an unknown name is an error.
+    bool fillTemplate(QString* text, const QHash<QString, QString>& values, const QString& where);
+    // The shared page frame around a body, with the pack's values.
+    bool writePage(const QString& name, const QString& title, const QString& body, const QString& where);
+    bool runSqlFile(::sqlite3* db, const QString& path);
+
+    bool fail(const QString& where, const QString& why);
+    QString src(const QString& rel) const;
+    QString out(const QString& rel) const;
+    bool readText(const QString& path, QString* text);
+    bool writeBytes(const QString& rel, const QByteArray& bytes);
+
+    QString m_source;
+    QString m_output;
+    QString m_error;
+    QString m_pageTemplate;
+    QHash<QString, QString> m_packValues;  // edition, buildDate, notice
+    QString m_edition;
+    QString m_buildDate;
+    bool m_sample = true;
+    QStringList m_sources;
+};
+
+} // namespace qor::packbuild
