@@ -24,7 +24,8 @@ QString packDirFrom(Context& ctx, const QStringList& args, const QString& comman
     *ok = args.size() <= 1;
     if (!*ok)
         ctx.usage(QStringLiteral("%1 takes at most one folder").arg(command));
-    return args.isEmpty() ? Resources::dir() : args.first();
+    // Absolute, so files listed under the folder compare with the manifest.
+    return QFileInfo(args.isEmpty() ? Resources::dir() : args.first()).absoluteFilePath();
 }
 
 int validateCommand(Context& ctx, QStringList args)
