@@ -71,6 +71,14 @@ TestCase {
         compare(stack.currentItem.material.unId, "1017")
     }
 
+    function test_followSearchLink() {
+        // The link waits 3 s before it fills the search field.
+        AppDelegate.openUrl("qor://search?q=chlorine")
+        tryVerify(function() { return list().titleLabel.text.indexOf("search results") > 0 }, 5000)
+        compare(list().searchField.text, "chlorine")
+        compare(list().controller.materialAt(0).unId, "1017")
+    }
+
     function test_followChemicalLink() {
         AppDelegate.openUrl("qor://chemical?un=1005")
         var stack = list().StackView.view

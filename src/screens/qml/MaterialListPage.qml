@@ -18,6 +18,7 @@ Page {
     function startSearch(text) {
         searchField.forceActiveFocus()
         searchField.text = text
+        list.searchText = text
         list.searchNow()
         searchField.focus = false
     }
