@@ -190,6 +190,7 @@ Page {
             // Side index: touching a key scrolls to its section.
             Column {
                 Layout.alignment: Qt.AlignTop
+                Layout.preferredWidth: list.sectionIndex.length > 0 ? 36 : 0
                 visible: list.sectionIndex.length > 0
                 Repeater {
                     model: list.sectionIndex
