@@ -148,16 +148,15 @@ Page {
             Keys.onDownPressed: { listView.forceActiveFocus(); listView.currentIndex = 0 }
         }
 
-        RowLayout {
+        Item {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            spacing: 0
 
             ListView {
                 id: listView
                 objectName: "materialListView"
-                Layout.fillWidth: true
-                Layout.fillHeight: true
+                anchors.fill: parent
+                anchors.rightMargin: sideIndex.visible ? sideIndex.width : 0
                 clip: true
                 model: list
                 keyNavigationEnabled: true
@@ -189,8 +188,10 @@ Page {
 
             // Side index: touching a key scrolls to its section.
             Column {
-                Layout.alignment: Qt.AlignTop
-                Layout.preferredWidth: list.sectionIndex.length > 0 ? 36 : 0
+                id: sideIndex
+                anchors.right: parent.right
+                anchors.top: parent.top
+                width: 36
                 visible: list.sectionIndex.length > 0
                 Repeater {
                     model: list.sectionIndex
