@@ -2,7 +2,9 @@
 #include "Cli.h"
 #include "MaterialJson.h"
 
+#include "model/PackManifest.h"
 #include "model/QORModel.h"
+#include "model/Resources.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -45,10 +47,32 @@ void printMaterialText(QTextStream& out, const QJsonObject& o)
                 << r.value(p + QStringLiteral("Protect distance Night Imp")).toString() << " mi\n";
         }
     }
-    for (auto it = o.constBegin(); it != o.constEnd(); ++it) {
-        // Keys added by the knowledge lookups: print plain strings as they are.
-        if (it.value().isString() && it.key() == QLatin1String("incidentsSummary"))
-            out << "  " << it.value().toString() << "\n";
+    const QString summary = o.value(QStringLiteral("incidentsSummary")).toString();
+    if (!summary.isEmpty())
+        out << "  " << summary.trimmed() << "\n";
+    const QJsonObject nfpa = o.value(QStringLiteral("nfpa")).toObject();
+    if (!nfpa.isEmpty())
+        out << "  NFPA 704: health " << nfpa.value(QStringLiteral("health")).toString() << ", fire "
+            << nfpa.value(QStringLiteral("fire")).toString() << ", instability " << nfpa.value(QStringLiteral("risk")).toString()
+            << (nfpa.value(QStringLiteral("other")).toString().isEmpty() ? QString() : QStringLiteral(", special ") + nfpa.value(QStringLiteral("other")).toString())
+            << "\n";
+    const QJsonObject npg = o.value(QStringLiteral("npgAttributes")).toObject();
+    const QString cas = o.value(QStringLiteral("casNo")).toString();
+    if (!cas.isEmpty())
+        out << "  CAS " << cas << "\n";
+    for (const char* key : { "idlhLimit", "nioshExpLimit", "oshaExpLimit" }) {
+        const QString v = npg.value(QLatin1String(key)).toString();
+        if (!v.isEmpty())
+            out << "  " << key << ": " << v << "\n";
+    }
+    for (const QJsonValue& e : o.value(QStringLiteral("hmtEntries")).toArray()) {
+        const QJsonObject entry = e.toObject();
+        out << "  Shipping: " << entry.value(QStringLiteral("name")).toString();
+        const QString group = entry.value(QStringLiteral("packingGroup")).toString();
+        if (!group.isEmpty())
+            out << ", packing group " << group;
+        out << "; non-bulk " << entry.value(QStringLiteral("nonBulk")).toString() << ", bulk "
+            << entry.value(QStringLiteral("bulk")).toString() << "\n";
     }
 }
 
@@ -66,6 +90,9 @@ int materialCommand(Context& ctx, QStringList args)
     } else {
         if (found.isEmpty())
             ctx.out << "No material matches " << args.first() << "\n";
+        const auto manifest = PackManifest::read(Resources::dir());
+        if (!found.isEmpty() && (!manifest || manifest->sample))
+            ctx.out << PackManifest::sampleNotice() << "\n";
         for (const QJsonValue& v : array)
             printMaterialText(ctx.out, v.toObject());
         ctx.out.flush();
