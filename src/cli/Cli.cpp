@@ -74,6 +74,24 @@ bool takeFlag(QStringList& args, const QString& name)
     return args.removeAll(name) > 0;
 }
 
+bool takeSortAndCategory(Context& ctx, QStringList& args, int* sort, QString* category)
+{
+    QString sortText = QStringLiteral("0");
+    *category = QStringLiteral("A");
+    bool ok = takeOption(args, QStringLiteral("--category"), category);
+    if (!ok) {
+        ctx.usage(QStringLiteral("--category needs one of A T U M W P"));
+        return false;
+    }
+    ok = takeOption(args, QStringLiteral("--sort"), &sortText);
+    *sort = sortText.toInt(&ok);
+    if (!ok || *sort < 0 || *sort > 3) {
+        ctx.usage(QStringLiteral("--sort needs a number from 0 to 3"));
+        return false;
+    }
+    return true;
+}
+
 static void printHelp(QTextStream& out)
 {
     out << "usage: qor-cli [--resources DIR] [--data-dir DIR] [--lang CODE] [--json] COMMAND [ARGS]\n\ncommands:\n";

@@ -37,5 +37,8 @@ int run(const QStringList& arguments, QTextStream& out, QTextStream& err);
 // Pulls "--name VALUE" out of args; returns false on a missing value.
 bool takeOption(QStringList& args, const QString& name, QString* value, bool* present = nullptr);
 bool takeFlag(QStringList& args, const QString& name);
+// Pulls "--sort 0-3" and "--category X" out of args (defaults 0 and "A");
+// false after printing a usage error.
+bool takeSortAndCategory(Context& ctx, QStringList& args, int* sort, QString* category);
 
 } // namespace qor::cli

@@ -108,18 +108,13 @@ QJsonObject materialRowJson(Material& m)
 
 int listCommand(Context& ctx, QStringList args)
 {
-    QString category = QStringLiteral("A"), sortText = QStringLiteral("0");
-    if (!takeOption(args, QStringLiteral("--category"), &category))
-        return ctx.usage(QStringLiteral("--category needs one of A T U M W P"));
-    if (!takeOption(args, QStringLiteral("--sort"), &sortText))
-        return ctx.usage(QStringLiteral("--sort needs a number from 0 to 3"));
+    int sort = 0;
+    QString category;
+    if (!takeSortAndCategory(ctx, args, &sort, &category))
+        return UsageError;
     const bool incidents = takeFlag(args, QStringLiteral("--incidents"));
     if (!args.isEmpty())
         return ctx.usage(QStringLiteral("unexpected argument '%1'").arg(args.first()));
-    bool ok = false;
-    const int sort = sortText.toInt(&ok);
-    if (!ok || sort < 0 || sort > 3)
-        return ctx.usage(QStringLiteral("--sort needs a number from 0 to 3"));
 
     QORModel& model = loadedModel();
     if (!model.filters.contains(category))

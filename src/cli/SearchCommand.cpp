@@ -14,15 +14,10 @@ namespace {
 
 int searchCommand(Context& ctx, QStringList args)
 {
-    QString sortText = QStringLiteral("0"), category = QStringLiteral("A");
-    if (!takeOption(args, QStringLiteral("--sort"), &sortText))
-        return ctx.usage(QStringLiteral("--sort needs a number from 0 to 3"));
-    if (!takeOption(args, QStringLiteral("--category"), &category))
-        return ctx.usage(QStringLiteral("--category needs one of A T U M W P"));
-    bool ok = false;
-    const int sort = sortText.toInt(&ok);
-    if (!ok || sort < 0 || sort > 3)
-        return ctx.usage(QStringLiteral("--sort needs a number from 0 to 3"));
+    int sort = 0;
+    QString category;
+    if (!takeSortAndCategory(ctx, args, &sort, &category))
+        return UsageError;
     if (args.size() != 1 || args.first().isEmpty())
         return ctx.usage(QStringLiteral("search needs exactly one non-empty TEXT"));
 

@@ -20,7 +20,18 @@ inline void PrintTo(const QStringList& list, std::ostream* os)
     *os << "}";
 }
 
+#include "model/Material.h"
+
 namespace qor::test {
+
+// The names of a list of materials, for comparing lists in one assertion.
+inline QStringList names(const MaterialList& list)
+{
+    QStringList out;
+    for (const auto& m : list)
+        out << m->name;
+    return out;
+}
 
 class FixturePack {
 public:

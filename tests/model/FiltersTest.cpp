@@ -10,16 +10,10 @@
 using namespace qor;
 using qor::test::FixturePack;
 using qor::test::ModelFixture;
+using qor::test::names;
 
 namespace {
 
-QStringList names(const MaterialList& list)
-{
-    QStringList out;
-    for (const auto& m : list)
-        out << m->name;
-    return out;
-}
 
 const QStringList kMaterials = {
     "CHLORINE^2.3^124^1017^1017^^",

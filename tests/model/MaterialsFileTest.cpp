@@ -8,6 +8,7 @@
 using namespace qor;
 using qor::test::FixturePack;
 using qor::test::ModelFixture;
+using qor::test::names;
 
 namespace {
 
@@ -19,13 +20,6 @@ MaterialPtr byName(const QString& name)
     return nullptr;
 }
 
-QStringList names(const MaterialList& list)
-{
-    QStringList out;
-    for (const auto& m : list)
-        out << m->name;
-    return out;
-}
 
 } // namespace
 

@@ -11,16 +11,10 @@
 using namespace qor;
 using qor::test::FixturePack;
 using qor::test::ModelFixture;
+using qor::test::names;
 
 namespace {
 
-QStringList names(const MaterialList& list)
-{
-    QStringList out;
-    for (const auto& m : list)
-        out << m->name;
-    return out;
-}
 
 struct ListControllerTest : ::testing::Test {
     FixturePack pack;
