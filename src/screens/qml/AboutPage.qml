@@ -17,6 +17,7 @@ Page {
     onVisibleChanged: if (visible) Qt.callLater(about.verifyChecksums)
 
     header: ToolBar {
+        implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
         Label { anchors.centerIn: parent; text: page.title; color: "white"; font.bold: true }
     }

@@ -25,6 +25,7 @@ Page {
     StackView.onActivating: history.reload()
 
     header: ToolBar {
+        implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
         RowLayout {
             anchors.centerIn: parent
@@ -51,6 +52,15 @@ Page {
     ColumnLayout {
         anchors.fill: parent
         spacing: 0
+
+        Label {
+            Layout.fillWidth: true
+            text: QorTheme.sampleNotice
+            horizontalAlignment: Text.AlignHCenter
+            color: "#ffb045"
+            font.pixelSize: 11
+            background: Rectangle { color: "#1c2630" }
+        }
 
         ListView {
             id: listView

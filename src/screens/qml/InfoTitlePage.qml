@@ -11,6 +11,7 @@ Page {
     property bool textSizeButton: true
     background: Rectangle { color: QorTheme.pageBackground }
     header: ToolBar {
+        implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
         RowLayout {
             anchors.fill: parent

@@ -20,6 +20,7 @@ Page {
     }
 
     header: ToolBar {
+        implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
         RowLayout {
             anchors.fill: parent
