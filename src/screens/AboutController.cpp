@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 
 namespace qor {
 
@@ -47,7 +48,13 @@ QString AboutController::aboutHtml() const
     QFile file(Resources::path(aboutPage(), QStringLiteral("html")));
     if (!file.open(QIODevice::ReadOnly))
         return {};
-    return QString::fromUtf8(file.readAll());
+    // Only the body's content: the page's own colours are for the web view,
+    // while the About screen draws the text in the app's colours.
+    const QString html = QString::fromUtf8(file.readAll());
+    static const QRegularExpression body(QStringLiteral("<body[^>]*>(.*)</body>"),
+                                         QRegularExpression::DotMatchesEverythingOption | QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch m = body.match(html);
+    return m.hasMatch() ? m.captured(1).trimmed() : html;
 }
 
 QString AboutController::sampleText() const
