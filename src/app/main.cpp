@@ -1,9 +1,12 @@
 // qor: the GUI. Thin: options, the single running instance, and the QML shell.
+#include "AboutController.h"
 #include "AppDelegate.h"
 #include "history/DialogService.h"
 #include "PdfImageProvider.h"
 #include "model/QORModel.h"
 #include "model/Resources.h"
+#include "model/Translations.h"
+#include "history/UserPaths.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
@@ -95,10 +98,31 @@ int runSelfTest(QQmlApplicationEngine& engine, QGuiApplication& app)
     return ok ? 0 : 1;
 }
 
+// --version answers on a terminal without a display, so it runs before the GUI starts.
+bool printVersionIfAsked(int argc, char** argv)
+{
+    bool asked = false;
+    for (int i = 1; i < argc; ++i)
+        asked = asked || qstrcmp(argv[i], "--version") == 0 || qstrcmp(argv[i], "-v") == 0;
+    if (!asked)
+        return false;
+    QCoreApplication app(argc, argv);
+    QCommandLineParser parser;
+    QCommandLineOption resources(QStringLiteral("resources"), QString(), QStringLiteral("DIR"));
+    parser.addOption(resources);
+    parser.parse(app.arguments());
+    if (parser.isSet(resources))
+        Resources::setOverride(parser.value(resources));
+    fprintf(stdout, "%s\n", qPrintable(AboutController::versionText()));
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    if (printVersionIfAsked(argc, argv))
+        return 0;
     QGuiApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("QOR"));
     QCoreApplication::setApplicationName(QStringLiteral("QOR"));
@@ -107,8 +131,12 @@ int main(int argc, char** argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Offline reference for hazardous-materials incidents."));
     parser.addHelpOption();
-    parser.addVersionOption();
+    // Listed for --help; printVersionIfAsked answers it, naming the data pack too.
+    QCommandLineOption version({ QStringLiteral("v"), QStringLiteral("version") }, QStringLiteral("Show the version and the data pack's edition."));
     QCommandLineOption resources(QStringLiteral("resources"), QStringLiteral("Read the data pack from DIR."), QStringLiteral("DIR"));
+    QCommandLineOption dataDir(QStringLiteral("data-dir"), QStringLiteral("Keep the user's files (history, settings, caches) in DIR."), QStringLiteral("DIR"));
+    QCommandLineOption openTab(QStringLiteral("open-tab"), QStringLiteral("Start on tab N (0 materials ... 4 About)."), QStringLiteral("N"));
+    QCommandLineOption openPlacards(QStringLiteral("open-placards"), QStringLiteral("Start on the placard table."));
     QCommandLineOption lang(QStringLiteral("lang"), QStringLiteral("Use language CODE."), QStringLiteral("CODE"));
     QCommandLineOption formFactor(QStringLiteral("form-factor"), QStringLiteral("Lay out as a phone or a tablet."), QStringLiteral("phone|tablet"));
     QCommandLineOption selfTest(QStringLiteral("self-test"), QStringLiteral("Load every screen in both layouts and exit."));
@@ -121,14 +149,17 @@ int main(int argc, char** argv)
     QCommandLineOption emptyWindow(QStringLiteral("empty-window"), QStringLiteral("Show an empty window (start-up baseline)."));
     firstFrame.setFlags(QCommandLineOption::HiddenFromHelp);
     emptyWindow.setFlags(QCommandLineOption::HiddenFromHelp);
-    parser.addOptions({ resources, lang, formFactor, selfTest, screenshot, screenshotDelay, size, firstFrame, emptyWindow });
+    parser.addOptions({ version, resources, dataDir, openTab, openPlacards, lang, formFactor, selfTest, screenshot, screenshotDelay, size, firstFrame, emptyWindow });
     parser.addPositionalArgument(QStringLiteral("links"), QStringLiteral("qor://search?q=TEXT or qor://chemical?un=NUMBER"), QStringLiteral("[links...]"));
     parser.process(app);
 
     if (parser.isSet(resources))
         Resources::setOverride(parser.value(resources));
+    if (parser.isSet(dataDir))
+        UserPaths::setDataDir(parser.value(dataDir));
     if (parser.isSet(lang))
         Preferences::setLanguageOverride(parser.value(lang));
+    Translations::installPreferred();
     const QString ff = parser.value(formFactor);
     if (!ff.isEmpty() && ff != QLatin1String("phone") && ff != QLatin1String("tablet")) {
         fprintf(stderr, "qor: --form-factor takes phone or tablet\n");
@@ -200,6 +231,10 @@ int main(int argc, char** argv)
             if (v == QWindow::Hidden || v == QWindow::Minimized)
                 delegate->saveData();
         });
+    if (parser.isSet(openTab))
+        delegate->setCurrentTab(parser.value(openTab).toInt());
+    if (parser.isSet(openPlacards))
+        QMetaObject::invokeMethod(engine.rootObjects().first(), "openPlacards");
     openWhenLoaded(links);
     if (window && parser.isSet(firstFrame))
         QObject::connect(window, &QQuickWindow::frameSwapped, &app, &QCoreApplication::quit, Qt::QueuedConnection);

@@ -2,6 +2,7 @@
 
 #include "model/QORModel.h"
 #include "model/Resources.h"
+#include "model/Translations.h"
 #include "history/UserPaths.h"
 
 #include <QJsonArray>
@@ -119,6 +120,7 @@ int run(const QStringList& arguments, QTextStream& out, QTextStream& err)
         return ctx.usage(QStringLiteral("--lang needs a language code"));
     if (present)
         Preferences::setLanguageOverride(lang);
+    Translations::installPreferred();
     ctx.json = takeFlag(args, QStringLiteral("--json"));
     if (takeFlag(args, QStringLiteral("--help")) || takeFlag(args, QStringLiteral("-h"))) {
         printHelp(out);

@@ -1,13 +1,109 @@
 import QtQuick
 import QtQuick.Controls
+import QtQuick.Layouts
 import QOR
 
+// Viewed materials: All, Recent or Most Viewed, with a Clear History button.
 Page {
+    id: page
     objectName: "HistoryPage"
-    title: qsTr("History")
+    property alias controller: history
+    property alias listView: listView
+    property alias clearButton: clearButton
+    title: history.title
     background: Rectangle { color: QorTheme.pageBackground }
+
+    MaterialHistoryListViewController {
+        id: history
+        onMaterialRequested: function(material) {
+            page.StackView.view.push(Qt.resolvedUrl("MaterialDetailPage.qml").toString(), { material: material })
+        }
+    }
+
+    // Every appearance shows current counts and orders.
+    onVisibleChanged: if (visible) history.reload()
+    StackView.onActivating: history.reload()
+
     header: ToolBar {
+        implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
-        Label { anchors.centerIn: parent; text: qsTr("History"); color: "white"; font.bold: true }
+        RowLayout {
+            anchors.centerIn: parent
+            spacing: 0
+            Repeater {
+                model: history.segmentTitles
+                delegate: Button {
+                    required property int index
+                    required property string modelData
+                    objectName: "segment" + index
+                    text: modelData
+                    checkable: true
+                    checked: history.segment === index
+                    implicitHeight: 32
+                    font.pixelSize: 13
+                    palette.button: checked ? QorTheme.tint : QorTheme.barBackground
+                    palette.buttonText: "white"
+                    onClicked: history.segment = index
+                }
+            }
+        }
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        Label {
+            Layout.fillWidth: true
+            text: QorTheme.sampleNotice
+            horizontalAlignment: Text.AlignHCenter
+            color: "#ffb045"
+            font.pixelSize: 11
+            background: Rectangle { color: "#1c2630" }
+        }
+
+        ListView {
+            id: listView
+            objectName: "historyList"
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            clip: true
+            model: history
+            keyNavigationEnabled: true
+            delegate: MaterialRow {
+                id: row
+                required property string verboseText
+                width: ListView.view.width
+                implicitHeight: history.rowHeight
+                highlighted: ListView.isCurrentItem
+                onClicked: history.selectRow(index)
+                Keys.onReturnPressed: history.selectRow(index)
+                Label {
+                    objectName: "verboseLabel"
+                    x: 250
+                    y: 38
+                    width: Math.max(60, row.width - 270)
+                    text: row.verboseText
+                    color: "#e0e0e0"
+                    font.pixelSize: 12
+                    horizontalAlignment: Text.AlignRight
+                }
+            }
+            ScrollBar.vertical: ScrollBar {}
+        }
+
+        Button {
+            id: clearButton
+            objectName: "clearHistoryButton"
+            Layout.alignment: Qt.AlignHCenter
+            Layout.margins: 8
+            text: qsTr("Clear History")
+            font.bold: true
+            font.pixelSize: 20
+            // Hidden, not removed, so the list does not jump.
+            opacity: history.clearButtonVisible ? 1 : 0
+            enabled: history.clearButtonVisible
+            onClicked: history.clearHistory()
+        }
     }
 }

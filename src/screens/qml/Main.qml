@@ -13,6 +13,11 @@ ApplicationWindow {
 
     readonly property bool tablet: AppDelegate.tablet
     property alias materialList: materialListPage
+    property alias historyPage: historyPage
+    property alias referencePage: referencePage
+    property alias aboutPage: aboutPage
+    // An info page shown in the tablet detail area instead of a material.
+    property var detailInfo: null
 
     onWidthChanged: AppDelegate.updateForWindowSize(width, height)
     Component.onCompleted: AppDelegate.updateForWindowSize(width, height)
@@ -34,6 +39,7 @@ ApplicationWindow {
             }
         }
         function onMaterialRequested(material) { window.openMaterial(material) }
+        function onDetailMaterialChanged() { window.detailInfo = null }
         function onGuideRequested(guideId, material) { window.openGuide(guideId, material) }
         function onSearchRequested(text) { materialListPage.startSearch(text) }
         function onEndSearchRequested() { materialListPage.endSearch() }
@@ -60,6 +66,22 @@ ApplicationWindow {
     function openGuide(guideId, material) {
         guidesStack.pop(null)
         guidesStack.push(Qt.resolvedUrl("GuidePage.qml").toString(), { guideId: guideId, material: material })
+    }
+
+    // Every info page opens through here, so the info screen is one switch away.
+    function openInfoPage(page, title, textSizeButton, inDetailArea) {
+        var props = { page: page, title: title, textSizeButton: textSizeButton }
+        if (inDetailArea && AppDelegate.tablet) {
+            detailInfo = props
+            return
+        }
+        currentStack().push(Qt.resolvedUrl("InfoTitlePage.qml").toString(), props)
+    }
+
+    function openPlacards() {
+        AppDelegate.currentTab = AppDelegate.ReferenceTab
+        referenceStack.pop(null, StackView.Immediate)
+        referencePage.openPlacards()
     }
 
     function currentStack() {
@@ -97,9 +119,9 @@ ApplicationWindow {
 
                 StackView { id: materialsStack; initialItem: MaterialListPage { id: materialListPage } }
                 StackView { id: guidesStack; initialItem: GuideListPage {} }
-                StackView { id: historyStack; initialItem: HistoryPage {} }
-                StackView { id: referenceStack; initialItem: ReferencePage {} }
-                StackView { id: aboutStack; initialItem: AboutPage {} }
+                StackView { id: historyStack; initialItem: HistoryPage { id: historyPage } }
+                StackView { id: referenceStack; initialItem: ReferencePage { id: referencePage } }
+                StackView { id: aboutStack; initialItem: AboutPage { id: aboutPage } }
                 StackView { id: searchStack; initialItem: SearchByIdPage {} }
             }
 
@@ -159,7 +181,8 @@ ApplicationWindow {
             Layout.fillWidth: true
             Layout.fillHeight: true
             active: window.tablet
-            sourceComponent: AppDelegate.detailMaterial.valid ? detailComponent : emptyDetail
+            sourceComponent: window.detailInfo ? infoDetailComponent
+                           : AppDelegate.detailMaterial.valid ? detailComponent : emptyDetail
         }
     }
 
@@ -180,6 +203,14 @@ ApplicationWindow {
         MaterialDetailPage { material: AppDelegate.detailMaterial }
     }
     Component {
+        id: infoDetailComponent
+        InfoTitlePage {
+            page: window.detailInfo ? window.detailInfo.page : ""
+            title: window.detailInfo ? window.detailInfo.title : ""
+            textSizeButton: window.detailInfo ? window.detailInfo.textSizeButton : false
+        }
+    }
+    Component {
         id: emptyDetail
         Rectangle {
             color: QorTheme.pageBackground
@@ -198,7 +229,8 @@ ApplicationWindow {
             AppDelegate.currentTab = t
         var m = materialListPage.firstMaterial()
         var pages = [["MaterialDetailPage.qml", { material: m }], ["GuidePage.qml", { guideId: m.guideId, material: m }],
-                     ["FilterPage.qml", {}]]
+                     ["FilterPage.qml", {}], ["PlacardsPage.qml", {}],
+                     ["InfoTitlePage.qml", { page: "howto", title: "howto", textSizeButton: false }]]
         for (var i = 0; i < pages.length; ++i) {
             var item = materialsStack.push(Qt.resolvedUrl(pages[i][0]).toString(), pages[i][1], StackView.Immediate)
             if (!item)

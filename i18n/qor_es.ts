@@ -1,0 +1,918 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es">
+<context>
+    <name>AboutPage</name>
+    <message>
+        <source>HOW TO USE THE GUIDEBOOK</source>
+        <translation>CÓMO USAR LA GUÍA</translation>
+    </message>
+    <message>
+        <source>Data pack</source>
+        <translation>Paquete de datos</translation>
+    </message>
+    <message>
+        <source>Edition</source>
+        <translation>Edición</translation>
+    </message>
+    <message>
+        <source>none found</source>
+        <translation>no encontrado</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Datos</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Send Feedback</source>
+        <translation>Enviar comentarios</translation>
+    </message>
+</context>
+<context>
+    <name>FilterPage</name>
+    <message>
+        <source>Filter Materials</source>
+        <translation>Filtrar materiales</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Materials with Incidents</source>
+        <translation>Materiales con incidentes</translation>
+    </message>
+</context>
+<context>
+    <name>GuideListPage</name>
+    <message>
+        <source>Guides</source>
+        <translation>Guías</translation>
+    </message>
+</context>
+<context>
+    <name>GuidePage</name>
+    <message>
+        <source>Guide %1</source>
+        <translation>Guía %1</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Clear History</source>
+        <translation>Borrar historial</translation>
+    </message>
+</context>
+<context>
+    <name>InfoTitlePage</name>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Tamaño del texto</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>QOR</source>
+        <translation>QOR</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materiales</translation>
+    </message>
+    <message>
+        <source>Guides</source>
+        <translation>Guías</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Referencia</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Choose a material</source>
+        <translation>Elija un material</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialDetailPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Guide %1</source>
+        <translation>Guía %1</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialListPage</name>
+    <message>
+        <source>Choose category</source>
+        <translation>Elegir categoría</translation>
+    </message>
+    <message>
+        <source>Filter materials</source>
+        <translation>Filtrar materiales</translation>
+    </message>
+    <message>
+        <source>Change sort order</source>
+        <translation>Cambiar el orden</translation>
+    </message>
+</context>
+<context>
+    <name>PlacardsPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Guide %1</source>
+        <translation>Guía %1</translation>
+    </message>
+</context>
+<context>
+    <name>QOR</name>
+    <message>
+        <source>All Materials</source>
+        <translation>Todos los materiales</translation>
+    </message>
+    <message>
+        <source>Toxic Inhalation Hazard</source>
+        <translation>Riesgo de inhalación tóxica</translation>
+    </message>
+    <message>
+        <source>TIH - Common</source>
+        <translation>RIT - Comunes</translation>
+    </message>
+    <message>
+        <source>Meth Lab</source>
+        <translation>Laboratorio de metanfetamina</translation>
+    </message>
+    <message>
+        <source>Water Reactive</source>
+        <translation>Reactivos con el agua</translation>
+    </message>
+    <message>
+        <source>Polymerizing</source>
+        <translation>Polimerizables</translation>
+    </message>
+    <message>
+        <source> Loading...</source>
+        <translation> Cargando...</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Materiales</translation>
+    </message>
+    <message>
+        <source>Chemical Warfare</source>
+        <translation>Guerra química</translation>
+    </message>
+    <message>
+        <source>Exposure:</source>
+        <translation>Exposición:</translation>
+    </message>
+    <message>
+        <source>Packing Group:</source>
+        <translation>Grupo de embalaje:</translation>
+    </message>
+    <message>
+        <source>Special Provisions:</source>
+        <translation>Disposiciones especiales:</translation>
+    </message>
+    <message>
+        <source>Non-Bulk Packaging:</source>
+        <translation>Embalaje no a granel:</translation>
+    </message>
+    <message>
+        <source>Bulk Packaging:</source>
+        <translation>Embalaje a granel:</translation>
+    </message>
+    <message>
+        <source>Qty Limit Passenger Air/Rail:</source>
+        <translation>Cantidad máx. avión/tren de pasajeros:</translation>
+    </message>
+    <message>
+        <source>Qty Limit Air Cargo:</source>
+        <translation>Cantidad máx. avión de carga:</translation>
+    </message>
+    <message>
+        <source>Vessel Stowage Location:</source>
+        <translation>Ubicación de estiba en buque:</translation>
+    </message>
+    <message>
+        <source>Great Danger</source>
+        <translation>Peligro grave</translation>
+    </message>
+    <message>
+        <source>Medium Danger</source>
+        <translation>Peligro medio</translation>
+    </message>
+    <message>
+        <source>Minor Danger</source>
+        <translation>Peligro menor</translation>
+    </message>
+    <message>
+        <source>Explosives with a mass explosion hazard.</source>
+        <translation>Explosivos con peligro de explosión en masa.</translation>
+    </message>
+    <message>
+        <source>Explosives with a blast/projection hazard.</source>
+        <translation>Explosivos con peligro de proyección.</translation>
+    </message>
+    <message>
+        <source>Explosives with a minor blast hazard.</source>
+        <translation>Explosivos con peligro menor de explosión.</translation>
+    </message>
+    <message>
+        <source>Explosives with a major fire hazard.</source>
+        <translation>Explosivos con peligro grave de incendio.</translation>
+    </message>
+    <message>
+        <source>Blasting agents.</source>
+        <translation>Agentes de voladura.</translation>
+    </message>
+    <message>
+        <source>Extremely insensitive explosives.</source>
+        <translation>Explosivos extremadamente insensibles.</translation>
+    </message>
+    <message>
+        <source>Flammable Gas</source>
+        <translation>Gas inflamable</translation>
+    </message>
+    <message>
+        <source>Non-Flammable Gases</source>
+        <translation>Gases no inflamables</translation>
+    </message>
+    <message>
+        <source>Poisonous Gases</source>
+        <translation>Gases venenosos</translation>
+    </message>
+    <message>
+        <source>Flammable Liquids</source>
+        <translation>Líquidos inflamables</translation>
+    </message>
+    <message>
+        <source>Flammable Solids</source>
+        <translation>Sólidos inflamables</translation>
+    </message>
+    <message>
+        <source>Spontaneously Combustible Solids</source>
+        <translation>Sólidos de combustión espontánea</translation>
+    </message>
+    <message>
+        <source>Dangerous when Wet</source>
+        <translation>Peligroso en contacto con agua</translation>
+    </message>
+    <message>
+        <source>Oxidizing Agent</source>
+        <translation>Agente oxidante</translation>
+    </message>
+    <message>
+        <source>Organic Peroxide Oxidizing Agent</source>
+        <translation>Peróxido orgánico oxidante</translation>
+    </message>
+    <message>
+        <source>Toxic and Infectious Substances</source>
+        <translation>Sustancias tóxicas e infecciosas</translation>
+    </message>
+    <message>
+        <source>Poison</source>
+        <translation>Veneno</translation>
+    </message>
+    <message>
+        <source>Poison Inhalation Hazard</source>
+        <translation>Veneno por inhalación</translation>
+    </message>
+    <message>
+        <source>Biohazard</source>
+        <translation>Riesgo biológico</translation>
+    </message>
+    <message>
+        <source>Radioactive Substances </source>
+        <translation>Sustancias radiactivas </translation>
+    </message>
+    <message>
+        <source>Corrosive Substances</source>
+        <translation>Sustancias corrosivas</translation>
+    </message>
+    <message>
+        <source>Corrosive Substances: Acids</source>
+        <translation>Sustancias corrosivas: ácidos</translation>
+    </message>
+    <message>
+        <source>Corrosive Substances Alkalis</source>
+        <translation>Sustancias corrosivas: álcalis</translation>
+    </message>
+    <message>
+        <source>Miscellaneous</source>
+        <translation>Varios</translation>
+    </message>
+    <message>
+        <source>WATER REACTIVE MATERIAL</source>
+        <translation>MATERIAL REACTIVO CON EL AGUA</translation>
+    </message>
+    <message>
+        <source>CHEMICAL WARFARE AGENT</source>
+        <translation>AGENTE DE GUERRA QUÍMICA</translation>
+    </message>
+    <message>
+        <source>TOXIC INHALATION HAZARD</source>
+        <translation>RIESGO DE INHALACIÓN TÓXICA</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>predeterminado</translation>
+    </message>
+    <message>
+        <source>Sample data — not for operational use</source>
+        <translation>Datos de muestra — no aptos para uso operativo</translation>
+    </message>
+    <message>
+        <source>QOR Materials</source>
+        <translation>Materiales QOR</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>Tablas</translation>
+    </message>
+    <message>
+        <source>Resources</source>
+        <translation>Recursos</translation>
+    </message>
+    <message>
+        <source>Identification and Response</source>
+        <translation>Identificación y respuesta</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Acciones</translation>
+    </message>
+    <message>
+        <source>Emergency Response Phone Numbers</source>
+        <translation>Teléfonos de respuesta a emergencias</translation>
+    </message>
+    <message>
+        <source>Emergency</source>
+        <translation>Emergencia</translation>
+    </message>
+    <message>
+        <source>CRIMINAL/TERRORIST USE OF CHEMICAL/BIOLOGICAL/RADIOLOGICAL AGENTS</source>
+        <translation>USO CRIMINAL/TERRORISTA DE AGENTES QUÍMICOS/BIOLÓGICOS/RADIOLÓGICOS</translation>
+    </message>
+    <message>
+        <source>CRIMINAL/TERRORIST USE</source>
+        <translation>USO CRIMINAL/TERRORISTA</translation>
+    </message>
+    <message>
+        <source>BLEVE and Heat Induced Tear</source>
+        <translation>BLEVE y rotura por calor</translation>
+    </message>
+    <message>
+        <source>IED Safe Stand Off Distance</source>
+        <translation>Distancia de seguridad ante artefactos explosivos improvisados</translation>
+    </message>
+    <message>
+        <source>IED</source>
+        <translation>AEI</translation>
+    </message>
+    <message>
+        <source>Glossary</source>
+        <translation>Glosario</translation>
+    </message>
+    <message>
+        <source>HOW TO USE THE GUIDEBOOK</source>
+        <translation>CÓMO USAR LA GUÍA</translation>
+    </message>
+    <message>
+        <source>SHIPPING DOCUMENTS (PAPERS)</source>
+        <translation>DOCUMENTOS DE EMBARQUE</translation>
+    </message>
+    <message>
+        <source>SHIPPING</source>
+        <translation>EMBARQUE</translation>
+    </message>
+    <message>
+        <source>PROTECTIVE CLOTHING</source>
+        <translation>ROPA DE PROTECCIÓN</translation>
+    </message>
+    <message>
+        <source>Decontamination</source>
+        <translation>Descontaminación</translation>
+    </message>
+    <message>
+        <source>HAZARD CLASSIFICATION SYSTEM</source>
+        <translation>SISTEMA DE CLASIFICACIÓN DE RIESGOS</translation>
+    </message>
+    <message>
+        <source>TABLE OF MARKINGS, LABELS AND PLACARDS</source>
+        <translation>TABLA DE MARCAS, ETIQUETAS Y CARTELES</translation>
+    </message>
+    <message>
+        <source>Placards</source>
+        <translation>Carteles</translation>
+    </message>
+    <message>
+        <source>Pipeline Transportation</source>
+        <translation>Transporte por ductos</translation>
+    </message>
+    <message>
+        <source>Pipelines</source>
+        <translation>Ductos</translation>
+    </message>
+    <message>
+        <source>GLOBALLY HARMONIZED SYSTEM OF CLASSIFICATION AND LABELING OF CHEMICALS (GHS)</source>
+        <translation>SISTEMA GLOBALMENTE ARMONIZADO DE CLASIFICACIÓN Y ETIQUETADO DE PRODUCTOS QUÍMICOS (SGA)</translation>
+    </message>
+    <message>
+        <source>GHS</source>
+        <translation>SGA</translation>
+    </message>
+    <message>
+        <source>RAIL CAR IDENTIFICATION CHART</source>
+        <translation>TABLA DE IDENTIFICACIÓN DE CARROS DE FERROCARRIL</translation>
+    </message>
+    <message>
+        <source>Rail Cars</source>
+        <translation>Carros de ferrocarril</translation>
+    </message>
+    <message>
+        <source>ROAD TRAILER IDENTIFICATION CHART</source>
+        <translation>TABLA DE IDENTIFICACIÓN DE REMOLQUES</translation>
+    </message>
+    <message>
+        <source>Road Trailers</source>
+        <translation>Remolques</translation>
+    </message>
+    <message>
+        <source>HAZARD IDENTIFICATION NUMBERS DISPLAYED ON SOME INTERMODAL CONTAINERS</source>
+        <translation>NÚMEROS DE IDENTIFICACIÓN DE RIESGO EN ALGUNOS CONTENEDORES INTERMODALES</translation>
+    </message>
+    <message>
+        <source>Intermodal</source>
+        <translation>Intermodal</translation>
+    </message>
+    <message>
+        <source>Safety Precautions</source>
+        <translation>Precauciones de seguridad</translation>
+    </message>
+    <message>
+        <source>Precautions</source>
+        <translation>Precauciones</translation>
+    </message>
+    <message>
+        <source>Protective Actions</source>
+        <translation>Acciones de protección</translation>
+    </message>
+    <message>
+        <source>Protective Action Decision Factors to Consider</source>
+        <translation>Factores para decidir las acciones de protección</translation>
+    </message>
+    <message>
+        <source>Protective Action</source>
+        <translation>Acción de protección</translation>
+    </message>
+    <message>
+        <source>NOTIFICATION AND REQUEST FOR TECHNICAL INFORMATION</source>
+        <translation>NOTIFICACIÓN Y SOLICITUD DE INFORMACIÓN TÉCNICA</translation>
+    </message>
+    <message>
+        <source>NOTIFICATION</source>
+        <translation>NOTIFICACIÓN</translation>
+    </message>
+    <message>
+        <source>FIRE AND SPILL CONTROL</source>
+        <translation>CONTROL DE INCENDIOS Y DERRAMES</translation>
+    </message>
+    <message>
+        <source>CONTROL</source>
+        <translation>CONTROL</translation>
+    </message>
+    <message>
+        <source>CONSIDERATIONS FOR LITHIUM BATTERY AND ELECTRIC VEHICLE (EV) FIRES</source>
+        <translation>CONSIDERACIONES PARA INCENDIOS DE BATERÍAS DE LITIO Y VEHÍCULOS ELÉCTRICOS (VE)</translation>
+    </message>
+    <message>
+        <source>LITHIUM BATTERY FIRES</source>
+        <translation>INCENDIOS DE BATERÍAS DE LITIO</translation>
+    </message>
+    <message>
+        <source>Aircraft Transportation</source>
+        <translation>Transporte aéreo</translation>
+    </message>
+    <message>
+        <source>Aircraft</source>
+        <translation>Aeronaves</translation>
+    </message>
+    <message>
+        <source>Bulk Packaging</source>
+        <translation>Embalaje a granel</translation>
+    </message>
+    <message>
+        <source>Intermediate Bulk Containers</source>
+        <translation>Recipientes intermedios para graneles</translation>
+    </message>
+    <message>
+        <source>IBC</source>
+        <translation>RIG</translation>
+    </message>
+    <message>
+        <source>Non-Bulk Packaging</source>
+        <translation>Embalaje no a granel</translation>
+    </message>
+    <message>
+        <source>IM and UN Specification Portable Tanks</source>
+        <translation>Cisternas portátiles IM y de especificación ONU</translation>
+    </message>
+    <message>
+        <source>Portable Tanks</source>
+        <translation>Cisternas portátiles</translation>
+    </message>
+    <message>
+        <source>UN Portable Tanks</source>
+        <translation>Cisternas portátiles ONU</translation>
+    </message>
+    <message>
+        <source>Water Transportation</source>
+        <translation>Transporte marítimo</translation>
+    </message>
+    <message>
+        <source>Water transport</source>
+        <translation>Transporte marítimo</translation>
+    </message>
+    <message>
+        <source>Numeric Provisions</source>
+        <translation>Disposiciones numéricas</translation>
+    </message>
+    <message>
+        <source>%@ %d were considered serious.</source>
+        <translation>%@ %d se consideraron graves.</translation>
+    </message>
+    <message>
+        <source>%@ %d involved bulk releases.</source>
+        <translation>%@ %d implicaron fugas a granel.</translation>
+    </message>
+    <message>
+        <source>%@ %d required an evacuation.</source>
+        <translation>%@ %d requirieron una evacuación.</translation>
+    </message>
+    <message>
+        <source>%@ %d had a fatality.</source>
+        <translation>%@ %d tuvieron una víctima mortal.</translation>
+    </message>
+    <message>
+        <source>%@ %d occurred on a major artery.</source>
+        <translation>%@ %d ocurrieron en una vía principal.</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Hoy</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Ayer</translation>
+    </message>
+    <message>
+        <source>Last Sunday</source>
+        <translation>El domingo pasado</translation>
+    </message>
+    <message>
+        <source>Last Monday</source>
+        <translation>El lunes pasado</translation>
+    </message>
+    <message>
+        <source>Last Tuesday</source>
+        <translation>El martes pasado</translation>
+    </message>
+    <message>
+        <source>Last Wednesday</source>
+        <translation>El miércoles pasado</translation>
+    </message>
+    <message>
+        <source>Last Thursday</source>
+        <translation>El jueves pasado</translation>
+    </message>
+    <message>
+        <source>Last Friday</source>
+        <translation>El viernes pasado</translation>
+    </message>
+    <message>
+        <source>Last Saturday</source>
+        <translation>El sábado pasado</translation>
+    </message>
+    <message>
+        <source>1 year ago</source>
+        <translation>hace 1 año</translation>
+    </message>
+    <message>
+        <source>%d years ago</source>
+        <translation>hace %d años</translation>
+    </message>
+    <message>
+        <source>1 month ago</source>
+        <translation>hace 1 mes</translation>
+    </message>
+    <message>
+        <source>%d months ago</source>
+        <translation>hace %d meses</translation>
+    </message>
+    <message>
+        <source>1 week ago</source>
+        <translation>hace 1 semana</translation>
+    </message>
+    <message>
+        <source>%d weeks ago</source>
+        <translation>hace %d semanas</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; couldn&apos;t be removed.</source>
+        <translation>No se pudo eliminar el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; couldn&apos;t be saved.</source>
+        <translation>No se pudo guardar el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; couldn&apos;t be opened.</source>
+        <translation>No se pudo abrir la carpeta «%1».</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; couldn&apos;t be opened.</source>
+        <translation>No se pudo abrir el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>Unable to save data: %@</source>
+        <translation>No se pueden guardar los datos: %@</translation>
+    </message>
+    <message>
+        <source>Unable to locate file %@</source>
+        <translation>No se encuentra el archivo %@</translation>
+    </message>
+    <message>
+        <source>Error Message</source>
+        <translation>Mensaje de error</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>International Chemical Safety Card for %@</source>
+        <translation>Ficha internacional de seguridad química de %@</translation>
+    </message>
+    <message>
+        <source>NIOSH Pocket Guide for %@</source>
+        <translation>Guía de bolsillo NIOSH de %@</translation>
+    </message>
+    <message>
+        <source>There were no incidents reported to the National Response Center (NRC) in the last 12 months</source>
+        <translation>No se notificaron incidentes al National Response Center (NRC) en los últimos 12 meses</translation>
+    </message>
+    <message>
+        <source>There was only one incident</source>
+        <translation>Hubo un solo incidente</translation>
+    </message>
+    <message>
+        <source>There were no incidents</source>
+        <translation>No hubo incidentes</translation>
+    </message>
+    <message>
+        <source>There were %d incidents</source>
+        <translation>Hubo %d incidentes</translation>
+    </message>
+    <message>
+        <source>in the last %d months</source>
+        <translation>en los últimos %d meses</translation>
+    </message>
+    <message>
+        <source>%@ reported to the National Response Center (NRC) %@.</source>
+        <translation>%@ notificados al National Response Center (NRC) %@.</translation>
+    </message>
+    <message>
+        <source>49CFR § 173.%@ %@</source>
+        <translation>49CFR § 173.%@ %@</translation>
+    </message>
+    <message>
+        <source>Stowage category &quot;%@&quot; - %@</source>
+        <translation>Categoría de estiba «%@» - %@</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Reference data</source>
+        <translation>Datos de referencia</translation>
+    </message>
+    <message>
+        <source>All %1 files match their checksums</source>
+        <translation>Los %1 archivos coinciden con sus sumas de verificación</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files do not match their checksums</source>
+        <translation>%1 de %2 archivos no coinciden con sus sumas de verificación</translation>
+    </message>
+    <message>
+        <source>No pack.json: the files cannot be checked</source>
+        <translation>Sin pack.json: no se pueden verificar los archivos</translation>
+    </message>
+    <message>
+        <source>Checking files…</source>
+        <translation>Verificando archivos…</translation>
+    </message>
+    <message>
+        <source>%1 (%2 %3)</source>
+        <translation>%1 (%2 %3)</translation>
+    </message>
+    <message>
+        <source>found</source>
+        <translation>encontrados</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recientes</translation>
+    </message>
+    <message>
+        <source>Most Viewed</source>
+        <translation>Más vistos</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>hoy</translation>
+    </message>
+    <message>
+        <source>%1 %2%3 ago</source>
+        <translation>hace %1 %2%3</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>día</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>ayer</translation>
+    </message>
+    <message>
+        <source>once</source>
+        <translation>una vez</translation>
+    </message>
+    <message>
+        <source>twice</source>
+        <translation>dos veces</translation>
+    </message>
+    <message>
+        <source>%1 %2%3</source>
+        <translation>%1 %2%3</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>consulta</translation>
+    </message>
+    <message>
+        <source>Search by UN Number</source>
+        <translation>Buscar por número ONU</translation>
+    </message>
+    <message>
+        <source>Search by Name or UN Number</source>
+        <translation>Buscar por nombre o número ONU</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>search results</source>
+        <translation>resultados de búsqueda</translation>
+    </message>
+    <message>
+        <source> %1</source>
+        <translation> %1</translation>
+    </message>
+    <message>
+        <source>%1 %2 - %3</source>
+        <translation>%1 %2 - %3</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>Guía</translation>
+    </message>
+    <message>
+        <source>%1 Incident%2</source>
+        <translation>%1 incidente%2</translation>
+    </message>
+    <message>
+        <source>Table of markings, labels and placards and initial response guide to use on-scene. USE THIS TABLE ONLY IF MATERIALS CANNOT BE SPECIFICALLY IDENTIFIED BY USING THE SHIPPING DOCUMENT, NUMBERED PLACARD, OR ORANGE PANEL NUMBER</source>
+        <translation>Tabla de marcas, etiquetas y carteles y guía de respuesta inicial para usar en el lugar. USE ESTA TABLA SOLO SI NO PUEDE IDENTIFICAR LOS MATERIALES CON EL DOCUMENTO DE EMBARQUE, EL CARTEL NUMERADO O EL NÚMERO DEL PANEL NARANJA</translation>
+    </message>
+    <message>
+        <source>ID Number Index (yellow pages)</source>
+        <translation>Índice por número de identificación (páginas amarillas)</translation>
+    </message>
+    <message>
+        <source>Name of Material Index (blue pages)</source>
+        <translation>Índice por nombre del material (páginas azules)</translation>
+    </message>
+    <message>
+        <source>[Table 1] Toxic Inhalation Hazard [TIH] Materials</source>
+        <translation>[Tabla 1] Materiales con riesgo de inhalación tóxica [RIT]</translation>
+    </message>
+    <message>
+        <source>[Table 2] Water-Reactive Materials which produce Toxic Gases</source>
+        <translation>[Tabla 2] Materiales que reaccionan con el agua y producen gases tóxicos</translation>
+    </message>
+    <message>
+        <source>[Table 3] Commonly Encountered Toxic Inhalation Hazard Gases</source>
+        <translation>[Tabla 3] Gases comunes con riesgo de inhalación tóxica</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Referencia</translation>
+    </message>
+    <message>
+        <source>[Table %1]</source>
+        <translation>[Tabla %1]</translation>
+    </message>
+    <message>
+        <source>UN%1</source>
+        <translation>ONU%1</translation>
+    </message>
+</context>
+<context>
+    <name>QorTheme</name>
+    <message>
+        <source>Sample data — not for operational use</source>
+        <translation>Datos de muestra — no aptos para uso operativo</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencePage</name>
+    <message>
+        <source>Placards</source>
+        <translation>Carteles</translation>
+    </message>
+</context>
+<context>
+    <name>SearchByIdPage</name>
+    <message>
+        <source>Search by UN Id</source>
+        <translation>Buscar por número ONU</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>UN number</source>
+        <translation>Número ONU</translation>
+    </message>
+    <message>
+        <source>Hazard Class</source>
+        <translation>Clase de riesgo</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>Abrir %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,918 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name>AboutPage</name>
+    <message>
+        <source>HOW TO USE THE GUIDEBOOK</source>
+        <translation>COMMENT UTILISER LE GUIDE</translation>
+    </message>
+    <message>
+        <source>Data pack</source>
+        <translation>Paquet de données</translation>
+    </message>
+    <message>
+        <source>Edition</source>
+        <translation>Édition</translation>
+    </message>
+    <message>
+        <source>none found</source>
+        <translation>introuvable</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Données</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Send Feedback</source>
+        <translation>Envoyer un commentaire</translation>
+    </message>
+</context>
+<context>
+    <name>FilterPage</name>
+    <message>
+        <source>Filter Materials</source>
+        <translation>Filtrer les matières</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Materials with Incidents</source>
+        <translation>Matières avec incidents</translation>
+    </message>
+</context>
+<context>
+    <name>GuideListPage</name>
+    <message>
+        <source>Guides</source>
+        <translation>Guides</translation>
+    </message>
+</context>
+<context>
+    <name>GuidePage</name>
+    <message>
+        <source>Guide %1</source>
+        <translation>Guide %1</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryPage</name>
+    <message>
+        <source>Clear History</source>
+        <translation>Effacer l&apos;historique</translation>
+    </message>
+</context>
+<context>
+    <name>InfoTitlePage</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Text size</source>
+        <translation>Taille du texte</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>QOR</source>
+        <translation>QOR</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Matières</translation>
+    </message>
+    <message>
+        <source>Guides</source>
+        <translation>Guides</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Référence</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Choose a material</source>
+        <translation>Choisissez une matière</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialDetailPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Guide %1</source>
+        <translation>Guide %1</translation>
+    </message>
+</context>
+<context>
+    <name>MaterialListPage</name>
+    <message>
+        <source>Choose category</source>
+        <translation>Choisir la catégorie</translation>
+    </message>
+    <message>
+        <source>Filter materials</source>
+        <translation>Filtrer les matières</translation>
+    </message>
+    <message>
+        <source>Change sort order</source>
+        <translation>Changer l&apos;ordre de tri</translation>
+    </message>
+</context>
+<context>
+    <name>PlacardsPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Guide %1</source>
+        <translation>Guide %1</translation>
+    </message>
+</context>
+<context>
+    <name>QOR</name>
+    <message>
+        <source>All Materials</source>
+        <translation>Toutes les matières</translation>
+    </message>
+    <message>
+        <source>Toxic Inhalation Hazard</source>
+        <translation>Toxique par inhalation</translation>
+    </message>
+    <message>
+        <source>TIH - Common</source>
+        <translation>TIH - Courants</translation>
+    </message>
+    <message>
+        <source>Meth Lab</source>
+        <translation>Laboratoire de méthamphétamine</translation>
+    </message>
+    <message>
+        <source>Water Reactive</source>
+        <translation>Hydroréactives</translation>
+    </message>
+    <message>
+        <source>Polymerizing</source>
+        <translation>Polymérisables</translation>
+    </message>
+    <message>
+        <source> Loading...</source>
+        <translation> Chargement...</translation>
+    </message>
+    <message>
+        <source>Materials</source>
+        <translation>Matières</translation>
+    </message>
+    <message>
+        <source>Chemical Warfare</source>
+        <translation>Guerre chimique</translation>
+    </message>
+    <message>
+        <source>Exposure:</source>
+        <translation>Exposition :</translation>
+    </message>
+    <message>
+        <source>Packing Group:</source>
+        <translation>Groupe d&apos;emballage :</translation>
+    </message>
+    <message>
+        <source>Special Provisions:</source>
+        <translation>Dispositions spéciales :</translation>
+    </message>
+    <message>
+        <source>Non-Bulk Packaging:</source>
+        <translation>Emballage non en vrac :</translation>
+    </message>
+    <message>
+        <source>Bulk Packaging:</source>
+        <translation>Emballage en vrac :</translation>
+    </message>
+    <message>
+        <source>Qty Limit Passenger Air/Rail:</source>
+        <translation>Quantité max. avion/train de passagers :</translation>
+    </message>
+    <message>
+        <source>Qty Limit Air Cargo:</source>
+        <translation>Quantité max. avion cargo :</translation>
+    </message>
+    <message>
+        <source>Vessel Stowage Location:</source>
+        <translation>Emplacement d&apos;arrimage à bord :</translation>
+    </message>
+    <message>
+        <source>Great Danger</source>
+        <translation>Danger grave</translation>
+    </message>
+    <message>
+        <source>Medium Danger</source>
+        <translation>Danger moyen</translation>
+    </message>
+    <message>
+        <source>Minor Danger</source>
+        <translation>Danger mineur</translation>
+    </message>
+    <message>
+        <source>Explosives with a mass explosion hazard.</source>
+        <translation>Explosifs présentant un risque d&apos;explosion en masse.</translation>
+    </message>
+    <message>
+        <source>Explosives with a blast/projection hazard.</source>
+        <translation>Explosifs présentant un risque de projection.</translation>
+    </message>
+    <message>
+        <source>Explosives with a minor blast hazard.</source>
+        <translation>Explosifs présentant un risque mineur d&apos;explosion.</translation>
+    </message>
+    <message>
+        <source>Explosives with a major fire hazard.</source>
+        <translation>Explosifs présentant un risque majeur d&apos;incendie.</translation>
+    </message>
+    <message>
+        <source>Blasting agents.</source>
+        <translation>Agents de sautage.</translation>
+    </message>
+    <message>
+        <source>Extremely insensitive explosives.</source>
+        <translation>Explosifs extrêmement peu sensibles.</translation>
+    </message>
+    <message>
+        <source>Flammable Gas</source>
+        <translation>Gaz inflammable</translation>
+    </message>
+    <message>
+        <source>Non-Flammable Gases</source>
+        <translation>Gaz non inflammables</translation>
+    </message>
+    <message>
+        <source>Poisonous Gases</source>
+        <translation>Gaz toxiques</translation>
+    </message>
+    <message>
+        <source>Flammable Liquids</source>
+        <translation>Liquides inflammables</translation>
+    </message>
+    <message>
+        <source>Flammable Solids</source>
+        <translation>Solides inflammables</translation>
+    </message>
+    <message>
+        <source>Spontaneously Combustible Solids</source>
+        <translation>Solides spontanément inflammables</translation>
+    </message>
+    <message>
+        <source>Dangerous when Wet</source>
+        <translation>Dangereux au contact de l&apos;eau</translation>
+    </message>
+    <message>
+        <source>Oxidizing Agent</source>
+        <translation>Comburant</translation>
+    </message>
+    <message>
+        <source>Organic Peroxide Oxidizing Agent</source>
+        <translation>Peroxyde organique comburant</translation>
+    </message>
+    <message>
+        <source>Toxic and Infectious Substances</source>
+        <translation>Matières toxiques et infectieuses</translation>
+    </message>
+    <message>
+        <source>Poison</source>
+        <translation>Toxique</translation>
+    </message>
+    <message>
+        <source>Poison Inhalation Hazard</source>
+        <translation>Toxique par inhalation</translation>
+    </message>
+    <message>
+        <source>Biohazard</source>
+        <translation>Danger biologique</translation>
+    </message>
+    <message>
+        <source>Radioactive Substances </source>
+        <translation>Matières radioactives </translation>
+    </message>
+    <message>
+        <source>Corrosive Substances</source>
+        <translation>Matières corrosives</translation>
+    </message>
+    <message>
+        <source>Corrosive Substances: Acids</source>
+        <translation>Matières corrosives : acides</translation>
+    </message>
+    <message>
+        <source>Corrosive Substances Alkalis</source>
+        <translation>Matières corrosives : bases</translation>
+    </message>
+    <message>
+        <source>Miscellaneous</source>
+        <translation>Divers</translation>
+    </message>
+    <message>
+        <source>WATER REACTIVE MATERIAL</source>
+        <translation>MATIÈRE HYDRORÉACTIVE</translation>
+    </message>
+    <message>
+        <source>CHEMICAL WARFARE AGENT</source>
+        <translation>AGENT DE GUERRE CHIMIQUE</translation>
+    </message>
+    <message>
+        <source>TOXIC INHALATION HAZARD</source>
+        <translation>TOXIQUE PAR INHALATION</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>par défaut</translation>
+    </message>
+    <message>
+        <source>Sample data — not for operational use</source>
+        <translation>Données d&apos;exemple — ne pas utiliser en intervention</translation>
+    </message>
+    <message>
+        <source>QOR Materials</source>
+        <translation>Matières QOR</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>Tableaux</translation>
+    </message>
+    <message>
+        <source>Resources</source>
+        <translation>Ressources</translation>
+    </message>
+    <message>
+        <source>Identification and Response</source>
+        <translation>Identification et intervention</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>Emergency Response Phone Numbers</source>
+        <translation>Numéros d&apos;urgence</translation>
+    </message>
+    <message>
+        <source>Emergency</source>
+        <translation>Urgence</translation>
+    </message>
+    <message>
+        <source>CRIMINAL/TERRORIST USE OF CHEMICAL/BIOLOGICAL/RADIOLOGICAL AGENTS</source>
+        <translation>UTILISATION CRIMINELLE/TERRORISTE D&apos;AGENTS CHIMIQUES/BIOLOGIQUES/RADIOLOGIQUES</translation>
+    </message>
+    <message>
+        <source>CRIMINAL/TERRORIST USE</source>
+        <translation>UTILISATION CRIMINELLE/TERRORISTE</translation>
+    </message>
+    <message>
+        <source>BLEVE and Heat Induced Tear</source>
+        <translation>BLEVE et rupture due à la chaleur</translation>
+    </message>
+    <message>
+        <source>IED Safe Stand Off Distance</source>
+        <translation>Distance de sécurité face à un engin explosif improvisé</translation>
+    </message>
+    <message>
+        <source>IED</source>
+        <translation>EEI</translation>
+    </message>
+    <message>
+        <source>Glossary</source>
+        <translation>Glossaire</translation>
+    </message>
+    <message>
+        <source>HOW TO USE THE GUIDEBOOK</source>
+        <translation>COMMENT UTILISER LE GUIDE</translation>
+    </message>
+    <message>
+        <source>SHIPPING DOCUMENTS (PAPERS)</source>
+        <translation>DOCUMENTS D&apos;EXPÉDITION</translation>
+    </message>
+    <message>
+        <source>SHIPPING</source>
+        <translation>EXPÉDITION</translation>
+    </message>
+    <message>
+        <source>PROTECTIVE CLOTHING</source>
+        <translation>VÊTEMENTS DE PROTECTION</translation>
+    </message>
+    <message>
+        <source>Decontamination</source>
+        <translation>Décontamination</translation>
+    </message>
+    <message>
+        <source>HAZARD CLASSIFICATION SYSTEM</source>
+        <translation>SYSTÈME DE CLASSIFICATION DES DANGERS</translation>
+    </message>
+    <message>
+        <source>TABLE OF MARKINGS, LABELS AND PLACARDS</source>
+        <translation>TABLEAU DES MARQUES, ÉTIQUETTES ET PLAQUES</translation>
+    </message>
+    <message>
+        <source>Placards</source>
+        <translation>Plaques</translation>
+    </message>
+    <message>
+        <source>Pipeline Transportation</source>
+        <translation>Transport par pipeline</translation>
+    </message>
+    <message>
+        <source>Pipelines</source>
+        <translation>Pipelines</translation>
+    </message>
+    <message>
+        <source>GLOBALLY HARMONIZED SYSTEM OF CLASSIFICATION AND LABELING OF CHEMICALS (GHS)</source>
+        <translation>SYSTÈME GÉNÉRAL HARMONISÉ DE CLASSIFICATION ET D&apos;ÉTIQUETAGE DES PRODUITS CHIMIQUES (SGH)</translation>
+    </message>
+    <message>
+        <source>GHS</source>
+        <translation>SGH</translation>
+    </message>
+    <message>
+        <source>RAIL CAR IDENTIFICATION CHART</source>
+        <translation>TABLEAU D&apos;IDENTIFICATION DES WAGONS</translation>
+    </message>
+    <message>
+        <source>Rail Cars</source>
+        <translation>Wagons</translation>
+    </message>
+    <message>
+        <source>ROAD TRAILER IDENTIFICATION CHART</source>
+        <translation>TABLEAU D&apos;IDENTIFICATION DES REMORQUES ROUTIÈRES</translation>
+    </message>
+    <message>
+        <source>Road Trailers</source>
+        <translation>Remorques</translation>
+    </message>
+    <message>
+        <source>HAZARD IDENTIFICATION NUMBERS DISPLAYED ON SOME INTERMODAL CONTAINERS</source>
+        <translation>NUMÉROS D&apos;IDENTIFICATION DU DANGER SUR CERTAINS CONTENEURS INTERMODAUX</translation>
+    </message>
+    <message>
+        <source>Intermodal</source>
+        <translation>Intermodal</translation>
+    </message>
+    <message>
+        <source>Safety Precautions</source>
+        <translation>Mesures de sécurité</translation>
+    </message>
+    <message>
+        <source>Precautions</source>
+        <translation>Précautions</translation>
+    </message>
+    <message>
+        <source>Protective Actions</source>
+        <translation>Mesures de protection</translation>
+    </message>
+    <message>
+        <source>Protective Action Decision Factors to Consider</source>
+        <translation>Facteurs de décision des mesures de protection</translation>
+    </message>
+    <message>
+        <source>Protective Action</source>
+        <translation>Mesure de protection</translation>
+    </message>
+    <message>
+        <source>NOTIFICATION AND REQUEST FOR TECHNICAL INFORMATION</source>
+        <translation>NOTIFICATION ET DEMANDE D&apos;INFORMATIONS TECHNIQUES</translation>
+    </message>
+    <message>
+        <source>NOTIFICATION</source>
+        <translation>NOTIFICATION</translation>
+    </message>
+    <message>
+        <source>FIRE AND SPILL CONTROL</source>
+        <translation>MAÎTRISE DES INCENDIES ET DES DÉVERSEMENTS</translation>
+    </message>
+    <message>
+        <source>CONTROL</source>
+        <translation>MAÎTRISE</translation>
+    </message>
+    <message>
+        <source>CONSIDERATIONS FOR LITHIUM BATTERY AND ELECTRIC VEHICLE (EV) FIRES</source>
+        <translation>CONSIDÉRATIONS POUR LES FEUX DE BATTERIES AU LITHIUM ET DE VÉHICULES ÉLECTRIQUES (VE)</translation>
+    </message>
+    <message>
+        <source>LITHIUM BATTERY FIRES</source>
+        <translation>FEUX DE BATTERIES AU LITHIUM</translation>
+    </message>
+    <message>
+        <source>Aircraft Transportation</source>
+        <translation>Transport aérien</translation>
+    </message>
+    <message>
+        <source>Aircraft</source>
+        <translation>Aéronefs</translation>
+    </message>
+    <message>
+        <source>Bulk Packaging</source>
+        <translation>Emballage en vrac</translation>
+    </message>
+    <message>
+        <source>Intermediate Bulk Containers</source>
+        <translation>Grands récipients pour vrac</translation>
+    </message>
+    <message>
+        <source>IBC</source>
+        <translation>GRV</translation>
+    </message>
+    <message>
+        <source>Non-Bulk Packaging</source>
+        <translation>Emballage non en vrac</translation>
+    </message>
+    <message>
+        <source>IM and UN Specification Portable Tanks</source>
+        <translation>Citernes mobiles IM et de spécification ONU</translation>
+    </message>
+    <message>
+        <source>Portable Tanks</source>
+        <translation>Citernes mobiles</translation>
+    </message>
+    <message>
+        <source>UN Portable Tanks</source>
+        <translation>Citernes mobiles ONU</translation>
+    </message>
+    <message>
+        <source>Water Transportation</source>
+        <translation>Transport maritime</translation>
+    </message>
+    <message>
+        <source>Water transport</source>
+        <translation>Transport maritime</translation>
+    </message>
+    <message>
+        <source>Numeric Provisions</source>
+        <translation>Dispositions numériques</translation>
+    </message>
+    <message>
+        <source>%@ %d were considered serious.</source>
+        <translation>%@ %d ont été jugés graves.</translation>
+    </message>
+    <message>
+        <source>%@ %d involved bulk releases.</source>
+        <translation>%@ %d ont impliqué des rejets en vrac.</translation>
+    </message>
+    <message>
+        <source>%@ %d required an evacuation.</source>
+        <translation>%@ %d ont nécessité une évacuation.</translation>
+    </message>
+    <message>
+        <source>%@ %d had a fatality.</source>
+        <translation>%@ %d ont causé un décès.</translation>
+    </message>
+    <message>
+        <source>%@ %d occurred on a major artery.</source>
+        <translation>%@ %d sont survenus sur un axe majeur.</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Aujourd&apos;hui</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Hier</translation>
+    </message>
+    <message>
+        <source>Last Sunday</source>
+        <translation>Dimanche dernier</translation>
+    </message>
+    <message>
+        <source>Last Monday</source>
+        <translation>Lundi dernier</translation>
+    </message>
+    <message>
+        <source>Last Tuesday</source>
+        <translation>Mardi dernier</translation>
+    </message>
+    <message>
+        <source>Last Wednesday</source>
+        <translation>Mercredi dernier</translation>
+    </message>
+    <message>
+        <source>Last Thursday</source>
+        <translation>Jeudi dernier</translation>
+    </message>
+    <message>
+        <source>Last Friday</source>
+        <translation>Vendredi dernier</translation>
+    </message>
+    <message>
+        <source>Last Saturday</source>
+        <translation>Samedi dernier</translation>
+    </message>
+    <message>
+        <source>1 year ago</source>
+        <translation>il y a 1 an</translation>
+    </message>
+    <message>
+        <source>%d years ago</source>
+        <translation>il y a %d ans</translation>
+    </message>
+    <message>
+        <source>1 month ago</source>
+        <translation>il y a 1 mois</translation>
+    </message>
+    <message>
+        <source>%d months ago</source>
+        <translation>il y a %d mois</translation>
+    </message>
+    <message>
+        <source>1 week ago</source>
+        <translation>il y a 1 semaine</translation>
+    </message>
+    <message>
+        <source>%d weeks ago</source>
+        <translation>il y a %d semaines</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; couldn&apos;t be removed.</source>
+        <translation>Le fichier « %1 » n&apos;a pas pu être supprimé.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; couldn&apos;t be saved.</source>
+        <translation>Le fichier « %1 » n&apos;a pas pu être enregistré.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; couldn&apos;t be opened.</source>
+        <translation>Le dossier « %1 » n&apos;a pas pu être ouvert.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; couldn&apos;t be opened.</source>
+        <translation>Le fichier « %1 » n&apos;a pas pu être ouvert.</translation>
+    </message>
+    <message>
+        <source>Unable to save data: %@</source>
+        <translation>Impossible d&apos;enregistrer les données : %@</translation>
+    </message>
+    <message>
+        <source>Unable to locate file %@</source>
+        <translation>Fichier %@ introuvable</translation>
+    </message>
+    <message>
+        <source>Error Message</source>
+        <translation>Message d&apos;erreur</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>International Chemical Safety Card for %@</source>
+        <translation>Fiche internationale de sécurité chimique : %@</translation>
+    </message>
+    <message>
+        <source>NIOSH Pocket Guide for %@</source>
+        <translation>Guide de poche NIOSH : %@</translation>
+    </message>
+    <message>
+        <source>There were no incidents reported to the National Response Center (NRC) in the last 12 months</source>
+        <translation>Aucun incident n&apos;a été signalé au National Response Center (NRC) au cours des 12 derniers mois</translation>
+    </message>
+    <message>
+        <source>There was only one incident</source>
+        <translation>Il n&apos;y a eu qu&apos;un seul incident</translation>
+    </message>
+    <message>
+        <source>There were no incidents</source>
+        <translation>Il n&apos;y a eu aucun incident</translation>
+    </message>
+    <message>
+        <source>There were %d incidents</source>
+        <translation>Il y a eu %d incidents</translation>
+    </message>
+    <message>
+        <source>in the last %d months</source>
+        <translation>au cours des %d derniers mois</translation>
+    </message>
+    <message>
+        <source>%@ reported to the National Response Center (NRC) %@.</source>
+        <translation>%@ signalés au National Response Center (NRC) %@.</translation>
+    </message>
+    <message>
+        <source>49CFR § 173.%@ %@</source>
+        <translation>49CFR § 173.%@ %@</translation>
+    </message>
+    <message>
+        <source>Stowage category &quot;%@&quot; - %@</source>
+        <translation>Catégorie d&apos;arrimage « %@ » - %@</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Reference data</source>
+        <translation>Données de référence</translation>
+    </message>
+    <message>
+        <source>All %1 files match their checksums</source>
+        <translation>Les %1 fichiers correspondent à leurs sommes de contrôle</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files do not match their checksums</source>
+        <translation>%1 fichiers sur %2 ne correspondent pas à leurs sommes de contrôle</translation>
+    </message>
+    <message>
+        <source>No pack.json: the files cannot be checked</source>
+        <translation>Pas de pack.json : impossible de vérifier les fichiers</translation>
+    </message>
+    <message>
+        <source>Checking files…</source>
+        <translation>Vérification des fichiers…</translation>
+    </message>
+    <message>
+        <source>%1 (%2 %3)</source>
+        <translation>%1 (%2 %3)</translation>
+    </message>
+    <message>
+        <source>found</source>
+        <translation>trouvés</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tout</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Récents</translation>
+    </message>
+    <message>
+        <source>Most Viewed</source>
+        <translation>Plus consultés</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>aujourd&apos;hui</translation>
+    </message>
+    <message>
+        <source>%1 %2%3 ago</source>
+        <translation>il y a %1 %2%3</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>jour</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>hier</translation>
+    </message>
+    <message>
+        <source>once</source>
+        <translation>une fois</translation>
+    </message>
+    <message>
+        <source>twice</source>
+        <translation>deux fois</translation>
+    </message>
+    <message>
+        <source>%1 %2%3</source>
+        <translation>%1 %2%3</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>consultation</translation>
+    </message>
+    <message>
+        <source>Search by UN Number</source>
+        <translation>Rechercher par numéro ONU</translation>
+    </message>
+    <message>
+        <source>Search by Name or UN Number</source>
+        <translation>Rechercher par nom ou numéro ONU</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>search results</source>
+        <translation>résultats de recherche</translation>
+    </message>
+    <message>
+        <source> %1</source>
+        <translation> %1</translation>
+    </message>
+    <message>
+        <source>%1 %2 - %3</source>
+        <translation>%1 %2 - %3</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>Guide</translation>
+    </message>
+    <message>
+        <source>%1 Incident%2</source>
+        <translation>%1 incident%2</translation>
+    </message>
+    <message>
+        <source>Table of markings, labels and placards and initial response guide to use on-scene. USE THIS TABLE ONLY IF MATERIALS CANNOT BE SPECIFICALLY IDENTIFIED BY USING THE SHIPPING DOCUMENT, NUMBERED PLACARD, OR ORANGE PANEL NUMBER</source>
+        <translation>Tableau des marques, étiquettes et plaques et guide d&apos;intervention initiale à utiliser sur les lieux. N&apos;UTILISEZ CE TABLEAU QUE SI LES MATIÈRES NE PEUVENT PAS ÊTRE IDENTIFIÉES PAR LE DOCUMENT D&apos;EXPÉDITION, LA PLAQUE NUMÉROTÉE OU LE NUMÉRO DU PANNEAU ORANGE</translation>
+    </message>
+    <message>
+        <source>ID Number Index (yellow pages)</source>
+        <translation>Index par numéro d&apos;identification (pages jaunes)</translation>
+    </message>
+    <message>
+        <source>Name of Material Index (blue pages)</source>
+        <translation>Index par nom de matière (pages bleues)</translation>
+    </message>
+    <message>
+        <source>[Table 1] Toxic Inhalation Hazard [TIH] Materials</source>
+        <translation>[Tableau 1] Matières toxiques par inhalation [TIH]</translation>
+    </message>
+    <message>
+        <source>[Table 2] Water-Reactive Materials which produce Toxic Gases</source>
+        <translation>[Tableau 2] Matières hydroréactives qui dégagent des gaz toxiques</translation>
+    </message>
+    <message>
+        <source>[Table 3] Commonly Encountered Toxic Inhalation Hazard Gases</source>
+        <translation>[Tableau 3] Gaz toxiques par inhalation courants</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Référence</translation>
+    </message>
+    <message>
+        <source>[Table %1]</source>
+        <translation>[Tableau %1]</translation>
+    </message>
+    <message>
+        <source>UN%1</source>
+        <translation>ONU%1</translation>
+    </message>
+</context>
+<context>
+    <name>QorTheme</name>
+    <message>
+        <source>Sample data — not for operational use</source>
+        <translation>Données d&apos;exemple — ne pas utiliser en intervention</translation>
+    </message>
+</context>
+<context>
+    <name>ReferencePage</name>
+    <message>
+        <source>Placards</source>
+        <translation>Plaques</translation>
+    </message>
+</context>
+<context>
+    <name>SearchByIdPage</name>
+    <message>
+        <source>Search by UN Id</source>
+        <translation>Rechercher par numéro ONU</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>UN number</source>
+        <translation>Numéro ONU</translation>
+    </message>
+    <message>
+        <source>Hazard Class</source>
+        <translation>Classe de danger</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>Ouvrir %1</translation>
+    </message>
+</context>
+</TS>

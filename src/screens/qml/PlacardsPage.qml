@@ -1,0 +1,113 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import QOR
+
+// The placard table: touching a placard opens the guide to start from.
+Page {
+    id: page
+    objectName: "placardsPage"
+    property alias controller: placards
+    property alias listView: listView
+    title: placards.title
+    background: Rectangle { color: QorTheme.pageBackground }
+
+    PlacardViewController {
+        id: placards
+        onGuideRequested: function(guideId) {
+            page.StackView.view.push(Qt.resolvedUrl("GuidePage.qml").toString(), { guideId: guideId })
+        }
+    }
+
+    header: ToolBar {
+        implicitHeight: QorTheme.touchTarget
+        background: Rectangle { color: QorTheme.barBackground }
+        RowLayout {
+            anchors.fill: parent
+            ToolButton {
+                visible: page.StackView.index > 0
+                text: "‹ " + qsTr("Back")
+                implicitHeight: QorTheme.touchTarget
+                onClicked: page.StackView.view.pop()
+            }
+            Label {
+                Layout.fillWidth: true
+                text: page.title
+                color: "white"
+                font.bold: true
+                horizontalAlignment: Text.AlignHCenter
+            }
+        }
+    }
+
+    ListView {
+        id: listView
+        objectName: "placardList"
+        anchors.fill: parent
+        clip: true
+        model: placards
+        keyNavigationEnabled: true
+        header: Column {
+            width: ListView.view.width
+            Label {
+                width: parent.width
+                text: QorTheme.sampleNotice
+                horizontalAlignment: Text.AlignHCenter
+                color: "#ffb045"
+                font.pixelSize: 11
+                background: Rectangle { color: "#1c2630" }
+            }
+            Label {
+                objectName: "placardSectionHeader"
+                width: parent.width
+                padding: 10
+                text: placards.sectionHeader
+                wrapMode: Text.Wrap
+                color: "white"
+                font.bold: true
+                font.pixelSize: 13
+                background: Rectangle { color: QorTheme.sectionBackground }
+            }
+        }
+        delegate: ItemDelegate {
+            id: row
+            required property int index
+            required property string imageUrl
+            required property string guideId
+            width: ListView.view.width
+            height: placards.rowHeight
+            Accessible.name: qsTr("Guide %1").arg(guideId)
+            highlighted: ListView.isCurrentItem
+            onClicked: placards.selectRow(index)
+            Keys.onReturnPressed: placards.selectRow(index)
+
+            // Inset 5 on each side and 2 to the right, at 225 by 75.
+            Image {
+                id: placardImage
+                x: 7
+                y: 5
+                width: 225
+                height: 75
+                source: row.imageUrl
+                sourceSize: Qt.size(450, 150)
+                fillMode: Image.PreserveAspectFit
+                asynchronous: true
+            }
+            BusyIndicator {
+                anchors.centerIn: placardImage
+                running: placardImage.status === Image.Loading
+                visible: running
+            }
+            Label {
+                anchors.right: parent.right
+                anchors.rightMargin: 12
+                anchors.verticalCenter: parent.verticalCenter
+                text: "›"
+                color: "#cccccc"
+                font.pixelSize: 24
+            }
+            background: Rectangle { color: row.highlighted || row.down ? "#3d566e" : "transparent" }
+        }
+        ScrollBar.vertical: ScrollBar {}
+    }
+}

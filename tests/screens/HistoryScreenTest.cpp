@@ -1,0 +1,150 @@
+// The history screen: the three orders, the row texts, the Clear History
+// button and opening a material.
+#include "FixturePack.h"
+#include "../history/HistoryTestSupport.h"
+
+#include "AppDelegate.h"
+#include "MaterialHistoryListViewController.h"
+#include "model/QORModel.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+using namespace qor;
+using qor::test::FixturePack;
+using qor::test::makeMaterial;
+using qor::test::ModelFixture;
+using H = MaterialHistoryListViewController;
+
+namespace {
+struct HistoryScreenTest : ::testing::Test {
+    qor::test::UserFolder user;
+    FixturePack pack;
+    std::unique_ptr<ModelFixture> fixture;
+    // A Tuesday, mid-morning, local time.
+    const QDateTime now{ QDate(2025, 3, 4), QTime(10, 0) };
+
+    void SetUp() override
+    {
+        pack.setMaterials({ "CHLORINE^2.3^124^1017^X^^" });
+        fixture = std::make_unique<ModelFixture>();
+        history().clearHistory();
+        Clock::setFixed(now);
+    }
+    void TearDown() override { QORAppDelegate::sharedInstance()->setFormFactorOverride("phone"); }
+    static ViewedHistory& history() { return HistoryManager::sharedInstance()->viewedHistory(); }
+    static void addEntries(int n)
+    {
+        for (int i = 0; i < n; ++i)
+            HistoryManager::sharedInstance()->addToHistory(makeMaterial(QString::number(2000 + i), QString("Material %1").arg(i)));
+    }
+    static QString verbose(const H& h, int row) { return h.data(h.index(row), H::VerboseTextRole).toString(); }
+};
+} // namespace
+
+TEST_F(HistoryScreenTest, RecentRowsSayHowLongAgo)
+{
+    auto* manager = HistoryManager::sharedInstance();
+    manager->addToHistory(makeMaterial("1001", "Two hours ago"), now.addSecs(-2 * 3600));
+    manager->addToHistory(makeMaterial("1002", "Before midnight"), now.addSecs(-23 * 3600));
+    manager->addToHistory(makeMaterial("1003", "Two days"), now.addSecs(-50 * 3600));
+    manager->addToHistory(makeMaterial("1004", "Forty seven hours"), now.addSecs(-47 * 3600));
+    manager->addToHistory(makeMaterial("1005", "Ten days"), now.addDays(-10));
+    H h;
+    ASSERT_EQ(h.segment(), H::RecentSegment) << "Recent is chosen first";
+    ASSERT_EQ(h.rowCount(), 5);
+    EXPECT_EQ(verbose(h, 0), "today");
+    EXPECT_EQ(verbose(h, 1), "yesterday") << "23 hours back is before midnight";
+    EXPECT_EQ(verbose(h, 2), "yesterday") << "one whole day reads yesterday even two calendar days back";
+    EXPECT_EQ(verbose(h, 3), "2 days ago");
+    EXPECT_EQ(verbose(h, 4), "10 days ago");
+    EXPECT_EQ(h.data(h.index(0), H::NameRole).toString(), "Two hours ago");
+    EXPECT_EQ(h.data(h.index(0), H::IncidentsTextRole).toString(), "");
+
+    h.setSegment(H::AllSegment);
+    EXPECT_EQ(verbose(h, 0), "") << "All shows no second text";
+}
+
+TEST_F(HistoryScreenTest, MostViewedRowsSayHowOften)
+{
+    auto* manager = HistoryManager::sharedInstance();
+    const int counts[] = { 5, 2, 1, 0 };
+    for (int i = 0; i < 4; ++i) {
+        MaterialPtr m = makeMaterial(QString::number(1100 + i), QString("M%1").arg(i));
+        manager->addToHistory(m);
+        // Hand-edited files can hold any count, 0 included.
+        manager->historyObjectForKey(m->unId)->properties["viewCount"] = counts[i];
+    }
+    H h;
+    h.setSegment(H::MostViewedSegment);
+    ASSERT_EQ(h.rowCount(), 4);
+    EXPECT_EQ(verbose(h, 0), "5 times");
+    EXPECT_EQ(verbose(h, 1), "twice");
+    EXPECT_EQ(verbose(h, 2), "once");
+    EXPECT_EQ(verbose(h, 3), "0 time");
+}
+
+TEST_F(HistoryScreenTest, ListsAreCappedExceptAll)
+{
+    addEntries(20);
+    H h;
+    EXPECT_EQ(h.rowCount(), 12);
+    h.setSegment(H::MostViewedSegment);
+    EXPECT_EQ(h.rowCount(), 12);
+    h.setSegment(H::AllSegment);
+    EXPECT_EQ(h.rowCount(), 20);
+    EXPECT_EQ(h.materialAt(0).name(), "Material 0");
+    h.setSegment(7);
+    EXPECT_EQ(h.rowCount(), 0) << "an unknown segment shows nothing";
+}
+
+TEST_F(HistoryScreenTest, ClearButtonShowsAboveFiveEntries)
+{
+    H empty;
+    for (int s : { 0, 1, 2 }) {
+        empty.setSegment(s);
+        EXPECT_EQ(empty.rowCount(), 0);
+    }
+    EXPECT_FALSE(empty.clearButtonVisible());
+
+    addEntries(5);
+    H h;
+    EXPECT_FALSE(h.clearButtonVisible()) << "5 entries";
+    addEntries(6);
+    h.reload();
+    EXPECT_TRUE(h.clearButtonVisible()) << "6 entries";
+
+    h.clearHistory();
+    EXPECT_FALSE(h.clearButtonVisible());
+    EXPECT_EQ(h.rowCount(), 0);
+    EXPECT_TRUE(history().allAlpha().isEmpty());
+}
+
+TEST_F(HistoryScreenTest, ReloadsWhenTheModelFinishesLoading)
+{
+    H h;
+    EXPECT_EQ(h.rowCount(), 0);
+    addEntries(2);
+    emit QORModel::sharedInstance()->modelLoadingStateChanged();
+    EXPECT_EQ(h.rowCount(), 2);
+    EXPECT_TRUE(h.data(h.index(0), H::EnabledRole).toBool());
+}
+
+TEST_F(HistoryScreenTest, ChoosingARowOpensTheMaterial)
+{
+    addEntries(1);
+    H h;
+    QSignalSpy requested(&h, &H::materialRequested);
+    h.selectRow(0);
+    ASSERT_EQ(requested.count(), 1);
+    EXPECT_EQ(requested.at(0).at(0).value<MaterialRef>().unId(), "2000");
+    h.selectRow(5);
+    EXPECT_EQ(requested.count(), 1) << "no such row";
+
+    QORAppDelegate* app = QORAppDelegate::sharedInstance();
+    app->setFormFactorOverride("tablet");
+    h.selectRow(0);
+    EXPECT_EQ(requested.count(), 1);
+    EXPECT_EQ(app->detailMaterial().unId(), "2000") << "the tablet shows it in the detail area";
+    app->showDetailForMaterial(MaterialRef());
+}

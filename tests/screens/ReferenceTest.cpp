@@ -1,0 +1,149 @@
+// The reference screen: sections, row texts and colours, and where rows lead.
+#include "FakePageView.h"
+#include "FixturePack.h"
+
+#include "AppDelegate.h"
+#include "MaterialListController.h"
+#include "ReferenceViewController.h"
+#include "model/QORModel.h"
+#include "model/Resources.h"
+#include "model/Translations.h"
+#include "pages/InfoViewFactory.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+using namespace qor;
+using qor::test::FixturePack;
+using qor::test::ModelFixture;
+using R = ReferenceViewController;
+
+namespace {
+struct ReferenceTest : ::testing::Test {
+    FixturePack pack;
+    qor::test::FakePageViews views;
+    std::unique_ptr<ModelFixture> fixture;
+    void SetUp() override
+    {
+        pack.setMaterials({ "CHLORINE^2.3^124^1017^X^^", "ACETONE^3^127^1090^^^" });
+        fixture = std::make_unique<ModelFixture>();
+    }
+    void TearDown() override
+    {
+        delete InfoViewFactory::sharedInstance(false);
+        QORAppDelegate::sharedInstance()->setFormFactorOverride("phone");
+    }
+    int rowOfPage(const R& ref, const QString& page)
+    {
+        for (int row = 0; row < ref.rowCount(); ++row)
+            if (ref.data(ref.index(row), R::PageRole).toString() == page)
+                return row;
+        return -1;
+    }
+};
+} // namespace
+
+TEST_F(ReferenceTest, FiveSectionsInOrder)
+{
+    R ref;
+    ASSERT_EQ(ref.rowCount(), 2 + 3 + 5 + 11 + 6);
+    QStringList headers;
+    for (int row = 0; row < ref.rowCount(); ++row) {
+        const QString h = ref.data(ref.index(row), R::SectionRole).toString();
+        if (headers.isEmpty() || headers.last() != h)
+            headers << h;
+    }
+    EXPECT_EQ(headers, QStringList({ "QOR Materials", "Tables", "Resources", "Identification and Response", "Actions" }));
+    EXPECT_EQ(ref.data(ref.index(0), R::TitleRole).toString(), "ID Number Index (yellow pages)");
+    EXPECT_EQ(ref.data(ref.index(5), R::TitleRole).toString(), "Emergency Response Phone Numbers");
+    EXPECT_EQ(ref.data(ref.index(26), R::PageRole).toString(), "battery");
+    EXPECT_EQ(ref.indentification.at(5).abbrev, "Placards");
+    EXPECT_EQ(ref.resources.at(2).abbrev, ref.resources.at(2).title) << "no short title: the title stands in";
+    EXPECT_EQ(ref.sectionOf(27), -1);
+}
+
+TEST_F(ReferenceTest, TableSubtitlesCountFromOneAndRowsAreTinted)
+{
+    R ref;
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(ref.data(ref.index(2 + i), R::SubtitleRole).toString(), QString("[Table %1]").arg(i + 1));
+    EXPECT_EQ(ref.data(ref.index(0), R::SubtitleRole).toString(), "");
+    EXPECT_EQ(ref.data(ref.index(5), R::SubtitleRole).toString(), "");
+
+    const QColor yellow = ref.rowColor(0, false);
+    EXPECT_EQ(yellow.rgb(), QColor(255, 247, 0).rgb());
+    EXPECT_NEAR(yellow.alphaF(), 0.15, 0.01);
+    const QColor blue = ref.rowColor(1, false);
+    EXPECT_NEAR(blue.hsvHueF(), 0.586, 0.01);
+    EXPECT_NEAR(blue.alphaF(), 0.15, 0.01);
+    EXPECT_EQ(ref.rowColor(2, false), QColor(156, 188, 156));
+    EXPECT_EQ(ref.rowColor(4, true), QColor(105, 137, 105));
+    EXPECT_EQ(ref.rowColor(5, true).alpha(), 0);
+}
+
+TEST_F(ReferenceTest, IndexAndTableRowsOpenTheMaterialList)
+{
+    R ref;
+    QORAppDelegate* app = QORAppDelegate::sharedInstance();
+    QORModel* model = QORModel::sharedInstance();
+    app->setCurrentTab(QORAppDelegate::ReferenceTab);
+    ref.selectRow(0);
+    EXPECT_EQ(app->currentTab(), QORAppDelegate::MaterialsTab);
+    EXPECT_EQ(model->currentFilter, model->allFilter);
+    EXPECT_EQ(model->currentFilter->sortType, SortUnId);
+    ref.selectRow(1);
+    EXPECT_EQ(model->currentFilter->sortType, SortAlpha);
+    ref.selectRow(2);
+    EXPECT_EQ(model->currentFilter, model->tihFilter);
+}
+
+TEST_F(ReferenceTest, PageRowsAskForTheirPageWithTheRightButtons)
+{
+    R ref;
+    QSignalSpy requested(&ref, &R::pageRequested);
+    ref.selectRow(rowOfPage(ref, "emergency"));
+    ref.selectRow(rowOfPage(ref, "howto"));
+    ASSERT_EQ(requested.count(), 2);
+    EXPECT_EQ(requested.at(0).at(0).toString(), "emergency");
+    EXPECT_EQ(requested.at(0).at(1).toString(), "Emergency Response Phone Numbers");
+    EXPECT_TRUE(requested.at(0).at(2).toBool()) << "text-size button";
+    EXPECT_FALSE(requested.at(0).at(3).toBool()) << "phone: pushed, not in a detail area";
+    EXPECT_FALSE(requested.at(1).at(2).toBool()) << "no text-size button on the how-to page";
+    EXPECT_TRUE(InfoViewFactory::sharedInstance()->infoViews().contains("howto")) << "the page builder was asked to load it";
+
+    QORAppDelegate::sharedInstance()->setFormFactorOverride("tablet");
+    ref.selectRow(rowOfPage(ref, "battery"));
+    EXPECT_TRUE(requested.at(2).at(3).toBool()) << "tablet: the detail area";
+}
+
+TEST_F(ReferenceTest, AFrenchRunIsFrenchFromTheFirstScreen)
+{
+    Preferences::setLanguageOverride("fr-CA");
+    ASSERT_TRUE(Translations::installPreferred());
+    ModelFixture loading(false);
+    {
+        R ref;
+        EXPECT_EQ(ref.title(), "Référence");
+        EXPECT_EQ(ref.sectionHeader(R::TablesSection), "Tableaux");
+        EXPECT_EQ(ref.data(ref.index(2), R::SubtitleRole).toString(), "[Tableau 1]");
+        EXPECT_EQ(ref.indentification.at(0).title, "COMMENT UTILISER LE GUIDE");
+
+        MaterialListController list;
+        ASSERT_TRUE(list.loading());
+        ASSERT_GT(list.rowCount(), 1);
+        EXPECT_EQ(list.data(list.index(1), MaterialListController::NameRole).toString(), "Accumulateurs au sodium");
+    }
+    Preferences::setLanguageOverride(QString());
+    EXPECT_FALSE(Translations::install("en"));
+    EXPECT_EQ(R().title(), "Reference") << "English again once the catalog is gone";
+}
+
+TEST(Translations, CatalogsByLanguage)
+{
+    EXPECT_EQ(Translations::catalogFor("fr"), "fr");
+    EXPECT_EQ(Translations::catalogFor("es-MX"), "es");
+    EXPECT_EQ(Translations::catalogFor("fr_BE"), "fr");
+    EXPECT_EQ(Translations::catalogFor("en-US"), "");
+    EXPECT_EQ(Translations::catalogFor("de"), "");
+    EXPECT_EQ(Translations::catalogFor(""), "");
+}
