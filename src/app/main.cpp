@@ -2,6 +2,7 @@
 #include "AppDelegate.h"
 #include "history/DialogService.h"
 #include "PdfImageProvider.h"
+#include "WebEnginePageView.h"
 #include "model/QORModel.h"
 #include "model/Resources.h"
 
@@ -12,6 +13,7 @@
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QTimer>
+#include <QtWebEngineQuick/qtwebenginequickglobal.h>
 #include <QtQml/qqmlextensionplugin.h>
 #include <cstdio>
 
@@ -99,6 +101,7 @@ int runSelfTest(QQmlApplicationEngine& engine, QGuiApplication& app)
 
 int main(int argc, char** argv)
 {
+    QtWebEngineQuick::initialize();
     QGuiApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("QOR"));
     QCoreApplication::setApplicationName(QStringLiteral("QOR"));
@@ -136,6 +139,8 @@ int main(int argc, char** argv)
     }
     const QStringList links = parser.positionalArguments();
 
+    // Every page the factories prepare is shown by a web engine view.
+    PageViewFactory::setCreator([] { return new WebEnginePageView(); });
     QQmlApplicationEngine engine;
     engine.addImageProvider(QString::fromLatin1(PdfImageProvider::kProviderId), new PdfImageProvider);
     if (parser.isSet(selfTest))

@@ -177,7 +177,8 @@ ApplicationWindow {
 
     Component {
         id: detailComponent
-        MaterialDetailPage { material: AppDelegate.detailMaterial }
+        // A stack of its own, so the detail screen can push its sub-screens.
+        StackView { initialItem: MaterialDetailPage { material: AppDelegate.detailMaterial } }
     }
     Component {
         id: emptyDetail
@@ -198,7 +199,10 @@ ApplicationWindow {
             AppDelegate.currentTab = t
         var m = materialListPage.firstMaterial()
         var pages = [["MaterialDetailPage.qml", { material: m }], ["GuidePage.qml", { guideId: m.guideId, material: m }],
-                     ["FilterPage.qml", {}]]
+                     ["FilterPage.qml", {}], ["IsolationPage.qml", { material: m }],
+                     ["InfoPage.qml", { page: "Isolation_Distances", title: "" }], ["RegulationPage.qml", { html: "" }],
+                     ["ProvisionsPage.qml", { provisions: ["A1"] }], ["ProvisionPage.qml", { category: "A", provision: "A1" }],
+                     ["ShippingEntryPage.qml", { attributes: {} }]]
         for (var i = 0; i < pages.length; ++i) {
             var item = materialsStack.push(Qt.resolvedUrl(pages[i][0]).toString(), pages[i][1], StackView.Immediate)
             if (!item)
