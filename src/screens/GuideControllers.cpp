@@ -174,9 +174,12 @@ void GuideViewController::hideRotatePrompt()
 
 void GuideViewController::viewWillAppear(double width, double height)
 {
-    // The screen always shows its own guide, whatever the shared view loaded last.
+    // The screen always shows its own guide, whatever the shared view loaded
+    // last; background loading would replace it in the one shared view.
+    GuideViewFactory* factory = GuideViewFactory::sharedInstance();
+    factory->invalidateLoadingTimer();
     if (m_guide)
-        if (const GuideViewPtr view = GuideViewFactory::sharedInstance()->viewForGuide(*m_guide)) {
+        if (const GuideViewPtr view = factory->viewForGuide(*m_guide)) {
             QMutexLocker locker(&view->mutex);
             view->load();
         }

@@ -91,6 +91,21 @@ void IsolationTableDelegate::segmentAction(int index)
     reloadData();
 }
 
+static QUrl packIcon(const QString& file)
+{
+    return Resources::exists(file) ? QUrl::fromLocalFile(Resources::path(file)) : QUrl();
+}
+
+QUrl IsolationTableDelegate::dayIcon()
+{
+    return packIcon(QStringLiteral("Cloudy-Daytime-icon.png"));
+}
+
+QUrl IsolationTableDelegate::nightIcon()
+{
+    return packIcon(QStringLiteral("Cloudy-Nighttime-icon.png"));
+}
+
 void IsolationTableDelegate::infoButtonClicked()
 {
     emit infoPageRequested(QLatin1String(kInfoPage), L::tr("Isolation Distances"));

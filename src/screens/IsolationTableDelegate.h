@@ -5,6 +5,7 @@
 #include "model/OrderedMap.h"
 
 #include <QObject>
+#include <QUrl>
 #include <QVariantList>
 #include <QtQml/qqmlregistration.h>
 
@@ -18,6 +19,8 @@ class IsolationTableDelegate : public QObject {
     Q_PROPERTY(int units READ units WRITE segmentAction NOTIFY tableChanged)
     Q_PROPERTY(QVariantList sections READ sections NOTIFY tableChanged)
     Q_PROPERTY(bool empty READ empty NOTIFY tableChanged)
+    Q_PROPERTY(QUrl dayIcon READ dayIcon CONSTANT)
+    Q_PROPERTY(QUrl nightIcon READ nightIcon CONSTANT)
 public:
     static constexpr const char* kSavedUnitsKey = "savedUnits";
     static constexpr const char* kInfoPage = "Isolation_Distances";
@@ -51,6 +54,9 @@ public:
     static QVariantMap largeSpillCell(const QString& row, int units);
 
     Q_INVOKABLE void infoButtonClicked();
+    // The pack's day and night artwork; empty when the pack has none.
+    static QUrl dayIcon();
+    static QUrl nightIcon();
 
     // "TIH Gas Produced: ..." or "TIH Gases Produced: ..." from the material's
     // hazard text; empty when the text is empty or just "X".

@@ -40,8 +40,10 @@ ListView {
                 anchors.right: parent.right
                 width: QorTheme.touchTarget
                 height: QorTheme.touchTarget
-                text: "ⓘ"
-                font.pixelSize: 20
+                text: "i"
+                font.pixelSize: 18
+                font.bold: true
+                font.italic: true
                 Accessible.name: qsTr("About %1").arg(cell.modelData.header)
                 onClicked: table.infoClicked(cell.modelData.infoPage, cell.modelData.header)
             }
@@ -87,8 +89,8 @@ ListView {
             ToolButton {
                 id: copy
                 anchors { right: parent.right; top: parent.top }
-                width: QorTheme.touchTarget; height: QorTheme.touchTarget
-                text: "⧉"
+                width: 64; height: QorTheme.touchTarget
+                text: qsTr("Copy")
                 Accessible.name: qsTr("Copy")
                 onClicked: table.copyRequested(row.copyText)
             }
@@ -125,8 +127,8 @@ ListView {
             ToolButton {
                 id: npgCopy
                 anchors { right: parent.right; top: parent.top }
-                width: QorTheme.touchTarget; height: QorTheme.touchTarget
-                text: "⧉"
+                width: 64; height: QorTheme.touchTarget
+                text: qsTr("Copy")
                 Accessible.name: qsTr("Copy")
                 onClicked: table.copyRequested(row.copyText)
             }

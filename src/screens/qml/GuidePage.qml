@@ -42,7 +42,7 @@ Page {
         }
         ToolButton {
             objectName: "fullscreenButton"
-            text: "⤢"
+            text: "[ ]"
             font.pixelSize: 18
             width: QorTheme.touchTarget; height: QorTheme.touchTarget
             palette.buttonText: "white"
@@ -51,7 +51,7 @@ Page {
         }
         ToolButton {
             objectName: "actionButton"
-            text: "⋯"
+            text: "•••"
             font.pixelSize: 22
             width: QorTheme.touchTarget; height: QorTheme.touchTarget
             palette.buttonText: "white"
@@ -89,7 +89,7 @@ Page {
         visible: AppDelegate.fullscreen
         anchors { right: parent.right; top: parent.top; margins: 8 }
         width: QorTheme.touchTarget; height: QorTheme.touchTarget
-        text: "✕"
+        text: "X"
         Accessible.name: qsTr("Leave full screen")
         onClicked: AppDelegate.toggleFullscreen()
     }
@@ -112,8 +112,8 @@ Page {
             horizontalAlignment: Text.AlignHCenter
             color: "white"
             font.pixelSize: 16
-            text: page.material ? qsTr("⟲ Widen the window to see the isolation distances beside the guide.")
-                                : qsTr("⟲ Widen the window for a landscape view of the guide.")
+            text: page.material ? qsTr("Widen the window to see the isolation distances beside the guide.")
+                                : qsTr("Widen the window for a landscape view of the guide.")
         }
         TapHandler { onTapped: controller.hideRotatePrompt() }
     }

@@ -18,8 +18,10 @@ Page {
         ToolButton {
             visible: !AppDelegate.tablet
             opacity: 0.5
-            text: "ⓘ"
-            font.pixelSize: 20
+            text: "i"
+            font.pixelSize: 18
+            font.bold: true
+            font.italic: true
             width: QorTheme.touchTarget; height: QorTheme.touchTarget
             palette.buttonText: "white"
             Accessible.name: qsTr("About isolation distances")

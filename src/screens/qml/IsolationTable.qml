@@ -97,9 +97,9 @@ ListView {
     component Figure: RowLayout {
         property string caption
         property string value
-        property string icon
+        property url icon
         width: parent ? parent.width : 0
-        Image { visible: icon.length > 0; source: icon.length > 0 ? "file:" + icon : ""; Layout.preferredWidth: 28; Layout.preferredHeight: 28 }
+        Image { visible: icon.toString().length > 0; source: icon; Layout.preferredWidth: 28; Layout.preferredHeight: 28 }
         Label { text: caption; color: "white"; font.pixelSize: 15; font.bold: true; Layout.fillWidth: true; wrapMode: Text.Wrap }
         Label { text: value; color: "#ffd27f"; font.pixelSize: 26; font.bold: true; horizontalAlignment: Text.AlignRight }
     }
@@ -118,8 +118,8 @@ ListView {
                     Label { text: modelData === "small" ? qsTr("Small Spill") : qsTr("Large Spill"); color: "white"; font.pixelSize: 17; font.bold: true }
                     Figure { caption: qsTr("First ISOLATE in all Directions for :"); value: cell[modelData + "Isolate"] }
                     Label { text: qsTr("Then protect persons Downwind"); color: "white"; font.pixelSize: 15; font.bold: true }
-                    Figure { caption: "☀ " + qsTr("(Day) :"); value: cell[modelData + "Day"] }
-                    Figure { caption: "☾ " + qsTr("(Night) :"); value: cell[modelData + "Night"] }
+                    Figure { caption: qsTr("(Day) :"); icon: iso.dayIcon; value: cell[modelData + "Day"] }
+                    Figure { caption: qsTr("(Night) :"); icon: iso.nightIcon; value: cell[modelData + "Night"] }
                 }
             }
         }
@@ -132,9 +132,9 @@ ListView {
             Label { text: qsTr("Large Spill"); color: "white"; font.pixelSize: 17; font.bold: true }
             Figure { caption: qsTr("First ISOLATE in all Directions for :"); value: cell.isolate }
             Label { text: qsTr("Then protect persons Downwind"); color: "white"; font.pixelSize: 15; font.bold: true }
-            Label { text: "☀ " + qsTr("(Day)"); color: "white"; font.pixelSize: 15; font.bold: true }
+            Figure { caption: qsTr("(Day)"); icon: iso.dayIcon }
             Repeater { model: 3; Figure { required property int index; caption: cell.windCaptions[index]; value: cell.day[index] } }
-            Label { text: "☾ " + qsTr("(Night)"); color: "white"; font.pixelSize: 15; font.bold: true }
+            Figure { caption: qsTr("(Night)"); icon: iso.nightIcon }
             Repeater { model: 3; Figure { required property int index; caption: cell.windCaptions[index]; value: cell.night[index] } }
         }
     }

@@ -45,14 +45,15 @@ Page {
                     required property int index
                     required property string modelData
                     objectName: "segment" + index
-                    width: controller.segmentWidth / controller.segmentImages.length * 0.8
+                    width: Math.min(controller.segmentWidth, page.width - 90) / controller.segmentImages.length
                     height: QorTheme.touchTarget
                     checkable: true
                     checked: controller.selectedViewIndex === index
                     icon.source: QorTheme.pdf(modelData, index === 1 ? 44 : 26, index === 1 ? 22 : 26)
                     icon.color: "transparent"
                     text: [qsTr("Summary"), qsTr("Shipping"), qsTr("Protection")][index]
-                    display: AbstractButton.IconOnly
+                    display: AbstractButton.TextBesideIcon
+                    font.pixelSize: 12
                     Accessible.name: text
                     onClicked: controller.selectedViewIndex = index
                 }
