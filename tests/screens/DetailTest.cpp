@@ -1,6 +1,7 @@
 // The material detail screen: tabs, summary rows, shipping rows and the protection tab.
 #include "FixturePack.h"
 
+#include "AppLinks.h"
 #include "MaterialViewController.h"
 #include "ShippingControllers.h"
 #include "model/Device.h"
@@ -61,13 +62,7 @@ struct DetailTest : ::testing::Test {
         Preferences::setLanguageOverride(QString());
     }
 
-    MaterialRef material(const QString& unId)
-    {
-        for (const MaterialPtr& m : model->materials)
-            if (m->unId == unId)
-                return MaterialRef(m);
-        return {};
-    }
+    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials, unId.toInt())); }
 };
 
 } // namespace

@@ -1,8 +1,8 @@
 // The guide page, guide list and information screens, and the page view the
 // app shows pages in.
-#include "FakePageView.h"
 #include "FixturePack.h"
 
+#include "AppLinks.h"
 #include "GuideControllers.h"
 #include "WebEnginePageView.h"
 #include "model/QORModel.h"
@@ -33,13 +33,7 @@ struct GuideScreensTest : ::testing::Test {
         settings.remove(GuideViewController::kTextFontSizeKey);
         settings.remove(GuideViewController::kRotatePromptKey);
     }
-    MaterialRef material(const QString& unId)
-    {
-        for (const MaterialPtr& m : model->materials)
-            if (m->unId == unId)
-                return MaterialRef(m);
-        return {};
-    }
+    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials, unId.toInt())); }
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 // The isolation distance tables: sections, container table, units and headers.
 #include "FixturePack.h"
 
+#include "AppLinks.h"
 #include "IsolationTableDelegate.h"
 #include "model/QORModel.h"
 
@@ -35,13 +36,7 @@ struct IsolationTest : ::testing::Test {
     }
     void TearDown() override { QSettings().remove(IsolationTableDelegate::kSavedUnitsKey); }
 
-    MaterialRef material(const QString& unId)
-    {
-        for (const MaterialPtr& m : model->materials)
-            if (m->unId == unId)
-                return MaterialRef(m);
-        return {};
-    }
+    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials, unId.toInt())); }
     QList<QVariantMap> sections(IsolationTableDelegate& d)
     {
         QList<QVariantMap> out;
