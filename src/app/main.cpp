@@ -3,6 +3,7 @@
 #include "AppDelegate.h"
 #include "history/DialogService.h"
 #include "PdfImageProvider.h"
+#include "WebEnginePageView.h"
 #include "model/QORModel.h"
 #include "model/Resources.h"
 #include "model/Translations.h"
@@ -12,9 +13,11 @@
 #include <QGuiApplication>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QPalette>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QTimer>
+#include <QtWebEngineQuick/qtwebenginequickglobal.h>
 #include <QtQml/qqmlextensionplugin.h>
 #include <cstdio>
 
@@ -123,6 +126,7 @@ int main(int argc, char** argv)
 {
     if (printVersionIfAsked(argc, argv))
         return 0;
+    QtWebEngineQuick::initialize();
     QGuiApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("QOR"));
     QCoreApplication::setApplicationName(QStringLiteral("QOR"));
@@ -147,9 +151,14 @@ int main(int argc, char** argv)
     // optionally showing an empty window instead of the app.
     QCommandLineOption firstFrame(QStringLiteral("exit-after-first-frame"), QStringLiteral("Quit after the first frame."));
     QCommandLineOption emptyWindow(QStringLiteral("empty-window"), QStringLiteral("Show an empty window (start-up baseline)."));
+    // Reaching the detail screens for screenshots.
+    QCommandLineOption detailTab(QStringLiteral("detail-tab"), QStringLiteral("Show tab N of the material opened by a link."), QStringLiteral("N"));
+    QCommandLineOption openScreen(QStringLiteral("open-screen"), QStringLiteral("Open isolation or guide for the material opened by a link."), QStringLiteral("NAME"));
+    QCommandLineOption appearance(QStringLiteral("appearance"), QStringLiteral("Use the light or dark appearance."), QStringLiteral("light|dark"));
     firstFrame.setFlags(QCommandLineOption::HiddenFromHelp);
     emptyWindow.setFlags(QCommandLineOption::HiddenFromHelp);
-    parser.addOptions({ version, resources, dataDir, openTab, openPlacards, lang, formFactor, selfTest, screenshot, screenshotDelay, size, firstFrame, emptyWindow });
+    parser.addOptions({ version, resources, dataDir, openTab, openPlacards, lang, formFactor, selfTest, screenshot, screenshotDelay,
+                        size, firstFrame, emptyWindow, detailTab, openScreen, appearance });
     parser.addPositionalArgument(QStringLiteral("links"), QStringLiteral("qor://search?q=TEXT or qor://chemical?un=NUMBER"), QStringLiteral("[links...]"));
     parser.process(app);
 
@@ -166,7 +175,16 @@ int main(int argc, char** argv)
         return 2;
     }
     const QStringList links = parser.positionalArguments();
+    if (parser.value(appearance) == QLatin1String("dark")) {
+        QPalette dark(QColor(0x30, 0x30, 0x30), QColor(0x20, 0x20, 0x20));
+        dark.setColor(QPalette::WindowText, Qt::white);
+        dark.setColor(QPalette::Text, Qt::white);
+        dark.setColor(QPalette::ButtonText, Qt::white);
+        QGuiApplication::setPalette(dark);
+    }
 
+    // Every page the factories prepare is shown by a web engine view.
+    PageViewFactory::setCreator([] { return new WebEnginePageView(); });
     QQmlApplicationEngine engine;
     engine.addImageProvider(QString::fromLatin1(PdfImageProvider::kProviderId), new PdfImageProvider);
     if (parser.isSet(selfTest))
@@ -236,6 +254,21 @@ int main(int argc, char** argv)
     if (parser.isSet(openPlacards))
         QMetaObject::invokeMethod(engine.rootObjects().first(), "openPlacards");
     openWhenLoaded(links);
+    if (window && (parser.isSet(detailTab) || parser.isSet(openScreen))) {
+        QTimer::singleShot(800, window, [window, tab = parser.value(detailTab), screen = parser.value(openScreen)] {
+            QObject* detail = window->findChild<QObject*>(QStringLiteral("materialDetail"));
+            if (!detail)
+                return;
+            if (!tab.isEmpty())
+                if (auto* controller = detail->property("controller").value<QObject*>())
+                    controller->setProperty("selectedViewIndex", tab.toInt());
+            if (screen == QLatin1String("isolation"))
+                QMetaObject::invokeMethod(detail, "openIsolation");
+            else if (screen == QLatin1String("guide"))
+                QORAppDelegate::sharedInstance()->showGuideForMaterial(detail->property("material").value<MaterialRef>().guideId(),
+                                                                      detail->property("material").value<MaterialRef>());
+        });
+    }
     if (window && parser.isSet(firstFrame))
         QObject::connect(window, &QQuickWindow::frameSwapped, &app, &QCoreApplication::quit, Qt::QueuedConnection);
 

@@ -49,7 +49,7 @@ TestCase {
         // An info page: pushed with its title; the how-to page has no text-size button.
         ref.controller.selectRow(10)
         var info = referenceStack().currentItem
-        compare(info.objectName, "infoTitlePage")
+        compare(info.objectName, "infoPage")
         compare(info.page, "howto")
         compare(info.textSizeButton, false)
         referenceStack().pop(null, StackView.Immediate)

@@ -3,25 +3,145 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import QOR
 
-// One response guide.
+// One response guide in the shared page view, with the text size sheet, the
+// rotate prompt, mail and print, and the isolation panel in landscape.
 Page {
     id: page
     objectName: "guidePage"
     property string guideId
     property var material
-    title: qsTr("Guide %1").arg(guideId)
-    background: Rectangle { color: QorTheme.pageBackground }
-    header: ToolBar {
-        background: Rectangle { color: QorTheme.barBackground }
+    property alias controller: controller
+    property alias host: host
+    property alias textSheet: textSheet
+    title: controller.title
+    background: Rectangle { color: "#ffb045" }
+
+    GuideViewController {
+        id: controller
+        guideId: page.guideId
+        material: page.material ? page.material : null
+        onPrintRequested: function(path) { host.web.printToPdf(path) }
+    }
+    Component.onCompleted: controller.viewWillAppear(width, height)
+    onWidthChanged: controller.prepareViewsForSize(width, height)
+    onHeightChanged: controller.prepareViewsForSize(width, height)
+    StackView.onActivating: controller.viewWillAppear(width, height)
+
+    header: BarHeader {
+        page: page
+        title: page.title
+        visible: !AppDelegate.fullscreen
+        ToolButton {
+            objectName: "textSizeButton"
+            text: "Aa"
+            font.pixelSize: 18
+            width: QorTheme.touchTarget; height: QorTheme.touchTarget
+            palette.buttonText: "white"
+            Accessible.name: qsTr("Text size")
+            onClicked: textSheet.open()
+        }
+        ToolButton {
+            objectName: "fullscreenButton"
+            text: "[ ]"
+            font.pixelSize: 18
+            width: QorTheme.touchTarget; height: QorTheme.touchTarget
+            palette.buttonText: "white"
+            Accessible.name: qsTr("Full screen")
+            onClicked: AppDelegate.toggleFullscreen()
+        }
+        ToolButton {
+            objectName: "actionButton"
+            text: "•••"
+            font.pixelSize: 22
+            width: QorTheme.touchTarget; height: QorTheme.touchTarget
+            palette.buttonText: "white"
+            Accessible.name: qsTr("Share")
+            onClicked: actionMenu.popup()
+            Menu {
+                id: actionMenu
+                MenuItem { text: qsTr("Email"); height: QorTheme.touchTarget; onTriggered: controller.emailWebPage() }
+                MenuItem { text: qsTr("Print"); height: QorTheme.touchTarget; onTriggered: controller.printWebPage() }
+                MenuItem { text: qsTr("Cancel"); height: QorTheme.touchTarget }
+            }
+        }
+    }
+
+    PageHost {
+        id: host
+        x: 0
+        width: controller.webWidth > 0 ? controller.webWidth : parent.width
+        height: parent.height
+        pageView: controller.pageView
+        zoom: controller.textFontSize / 100
+    }
+
+    IsolationTable {
+        objectName: "isolationPanel"
+        visible: controller.isolationVisible && x < page.width
+        x: controller.panelX
+        width: controller.panelWidth
+        height: parent.height
+        material: controller.isolationVisible ? page.material : null
+    }
+
+    // Leaving full screen: a tap target stays on the page while the bars are hidden.
+    RoundButton {
+        visible: AppDelegate.fullscreen
+        anchors { right: parent.right; top: parent.top; margins: 8 }
+        width: QorTheme.touchTarget; height: QorTheme.touchTarget
+        text: "X"
+        Accessible.name: qsTr("Leave full screen")
+        onClicked: AppDelegate.toggleFullscreen()
+    }
+
+    Rectangle {
+        objectName: "rotatePrompt"
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 40, 320)
+        height: promptText.implicitHeight + 40
+        radius: 10
+        color: "#e0000000"
+        opacity: controller.rotatePromptVisible ? 1 : 0
+        visible: opacity > 0
+        Behavior on opacity { NumberAnimation { duration: 500 } }
+        Label {
+            id: promptText
+            anchors.centerIn: parent
+            width: parent.width - 30
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignHCenter
+            color: "white"
+            font.pixelSize: 16
+            text: page.material ? qsTr("Widen the window to see the isolation distances beside the guide.")
+                                : qsTr("Widen the window for a landscape view of the guide.")
+        }
+        TapHandler { onTapped: controller.hideRotatePrompt() }
+    }
+
+    Dialog {
+        id: textSheet
+        objectName: "textSheet"
+        anchors.centerIn: Overlay.overlay
+        modal: true
+        width: Math.min(360, page.width - 20)
+        footer: DialogButtonBox {
+            Button { text: qsTr("Done"); implicitHeight: QorTheme.touchTarget; DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole }
+        }
+        property alias slider: slider
         RowLayout {
             anchors.fill: parent
-            ToolButton {
-                visible: page.StackView.index > 0
-                text: "‹ " + qsTr("Back")
+            Label { text: "A"; font.pixelSize: 15 }
+            Slider {
+                id: slider
+                objectName: "textSizeSlider"
+                Layout.fillWidth: true
                 implicitHeight: QorTheme.touchTarget
-                onClicked: page.StackView.view.pop()
+                from: 65
+                to: 130
+                value: controller.textFontSize
+                onMoved: controller.sliderChanged(value)
             }
-            Label { Layout.fillWidth: true; text: page.title; color: "white"; font.bold: true }
+            Label { text: "A"; font.pixelSize: 22; font.bold: true }
         }
     }
 }

@@ -75,7 +75,7 @@ ApplicationWindow {
             detailInfo = props
             return
         }
-        currentStack().push(Qt.resolvedUrl("InfoTitlePage.qml").toString(), props)
+        currentStack().push(Qt.resolvedUrl("InfoPage.qml").toString(), props)
     }
 
     function openPlacards() {
@@ -200,11 +200,12 @@ ApplicationWindow {
 
     Component {
         id: detailComponent
-        MaterialDetailPage { material: AppDelegate.detailMaterial }
+        // A stack of its own, so the detail screen can push its sub-screens.
+        StackView { initialItem: MaterialDetailPage { material: AppDelegate.detailMaterial } }
     }
     Component {
         id: infoDetailComponent
-        InfoTitlePage {
+        InfoPage {
             page: window.detailInfo ? window.detailInfo.page : ""
             title: window.detailInfo ? window.detailInfo.title : ""
             textSizeButton: window.detailInfo ? window.detailInfo.textSizeButton : false
@@ -229,8 +230,10 @@ ApplicationWindow {
             AppDelegate.currentTab = t
         var m = materialListPage.firstMaterial()
         var pages = [["MaterialDetailPage.qml", { material: m }], ["GuidePage.qml", { guideId: m.guideId, material: m }],
-                     ["FilterPage.qml", {}], ["PlacardsPage.qml", {}],
-                     ["InfoTitlePage.qml", { page: "howto", title: "howto", textSizeButton: false }]]
+                     ["FilterPage.qml", {}], ["PlacardsPage.qml", {}], ["IsolationPage.qml", { material: m }],
+                     ["InfoPage.qml", { page: "Isolation_Distances", title: "" }], ["RegulationPage.qml", { html: "" }],
+                     ["ProvisionsPage.qml", { provisions: ["A1"] }], ["ProvisionPage.qml", { category: "A", provision: "A1" }],
+                     ["ShippingEntryPage.qml", { attributes: {} }]]
         for (var i = 0; i < pages.length; ++i) {
             var item = materialsStack.push(Qt.resolvedUrl(pages[i][0]).toString(), pages[i][1], StackView.Immediate)
             if (!item)

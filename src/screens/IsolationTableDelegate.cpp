@@ -1,0 +1,231 @@
+#include "IsolationTableDelegate.h"
+
+#include "model/QORModel.h"
+#include "model/Resources.h"
+
+#include <QSettings>
+
+namespace qor {
+
+namespace {
+
+struct ContainerRow {
+    const char* name;
+    const char* row;
+};
+
+// Large spills by container: isolate (m, ft), then day and night downwind
+// distances for low, moderate and high wind, each as km then miles.
+const ContainerRow k1005[] = {
+    { QT_TRANSLATE_NOOP("QOR", "Rail Tank Car"), "300,1000,1.6,1.0,1.2,0.8,1.0,0.6,4.1,2.6,2.1,1.3,1.3,0.8" },
+    { QT_TRANSLATE_NOOP("QOR", "Highway Tank Car or Trailer"), "150,500,0.8,0.5,0.5,0.3,0.4,0.3,1.8,1.1,0.7,0.4,0.6,0.4" },
+    { QT_TRANSLATE_NOOP("QOR", "Agricultural Nurse Tank"), "60,200,0.5,0.3,0.3,0.2,0.3,0.2,1.4,0.9,0.3,0.2,0.3,0.2" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders"), "30,100,0.3,0.2,0.2,0.2,0.1,0.1,0.7,0.5,0.3,0.2,0.2,0.1" },
+};
+const ContainerRow k1017[] = {
+    { QT_TRANSLATE_NOOP("QOR", "Rail Tank Car"), "1000,3000,9.6,6.0,6.3,3.9,5.1,3.2,11+,7+,8.9,5.6,6.5,4.1" },
+    { QT_TRANSLATE_NOOP("QOR", "Highway Tank Car or Trailer"), "600,2000,5.6,3.5,3.3,2.1,2.5,1.6,6.4,4.0,4.7,2.9,3.8,2.4" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple ton cylinders"), "300,1000,1.9,1.2,1.3,0.8,1.0,0.6,3.5,2.2,2.3,1.4,1.3,0.8" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders or single ton cylinder"), "150,500,1.3,0.9,0.7,0.5,0.5,0.3,2.4,1.5,1.2,0.8,0.6,0.4" },
+};
+const ContainerRow k1040[] = {
+    { QT_TRANSLATE_NOOP("QOR", "Rail Tank Car"), "200,600,1.5,1.0,0.8,0.5,0.7,0.4,3.0,1.8,1.4,0.9,0.8,0.5" },
+    { QT_TRANSLATE_NOOP("QOR", "Highway Tank Car or Trailer"), "100,300,0.9,0.6,0.5,0.3,0.4,0.3,2.0,1.3,0.7,0.4,0.4,0.3" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders or single ton cylinder"), "30,100,0.4,0.3,0.2,0.1,0.1,0.1,0.8,0.5,0.3,0.2,0.2,0.1" },
+};
+// Shared by 1050 and 2186.
+const ContainerRow k1050[] = {
+    { QT_TRANSLATE_NOOP("QOR", "Rail Tank Car"), "500,1500,3.7,2.3,2.0,1.3,1.7,1.1,9.7,6.1,3.3,2.1,2.2,1.4" },
+    { QT_TRANSLATE_NOOP("QOR", "Highway Tank Car or Trailer"), "200,600,1.5,0.9,0.8,0.5,0.6,0.4,3.7,2.3,1.5,0.9,0.8,0.5" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple ton cylinders"), "30,100,0.4,0.3,0.2,0.1,0.1,0.1,1.0,0.6,0.3,0.2,0.1,0.1" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders or single ton cylinder"), "30,100,0.3,0.2,0.2,0.1,0.1,0.1,0.9,0.6,0.3,0.2,0.2,0.1" },
+};
+const ContainerRow k1052[] = {
+    { QT_TRANSLATE_NOOP("QOR", "Rail Tank Car"), "500,1500,3.4,2.1,2.1,1.3,1.8,1.1,6.4,4.0,3.0,1.9,1.9,1.2" },
+    { QT_TRANSLATE_NOOP("QOR", "Highway Tank Car or Trailer"), "200,700,2.0,1.2,1.0,0.7,0.9,0.6,3.6,2.3,1.5,1.0,0.9,0.6" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders or single ton cylinder"), "100,300,0.8,0.5,0.4,0.2,0.3,0.2,1.7,1.1,0.5,0.3,0.3,0.2" },
+};
+const ContainerRow k1079[] = {
+    { QT_TRANSLATE_NOOP("QOR", "Rail Tank Car"), "1000,3000,11+,7+,11+,7+,6.9,4.3,11+,7+,11+,7+,9.6,6.0" },
+    { QT_TRANSLATE_NOOP("QOR", "Highway Tank Car or Trailer"), "1000,3000,11+,7+,6.0,3.8,5.0,3.3,11+,7+,7.9,5.1,6.0,3.9" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple ton cylinders"), "500,1500,5.2,3.3,2.2,1.4,1.7,1.1,7.4,4.3,4.0,2.4,2.7,1.7" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders or single ton cylinder"), "200,600,3.1,1.9,1.5,0.9,1.1,0.7,5.6,3.5,2.4,1.5,1.5,0.9" },
+};
+
+template <size_t N>
+OrderedMap<QString> containerMap(const ContainerRow (&rows)[N])
+{
+    OrderedMap<QString> map;
+    for (const ContainerRow& r : rows)
+        map.insert(L::tr(r.name), QString::fromLatin1(r.row));
+    return map;
+}
+
+QString withUnit(const QString& value, const char* unit)
+{
+    return QStringLiteral("%1 %2").arg(value, QLatin1String(unit));
+}
+
+const QString kSmall = QStringLiteral("Small Spill");
+const QString kLarge = QStringLiteral("Large Spill");
+
+} // namespace
+
+IsolationTableDelegate::IsolationTableDelegate(QObject* parent) : QObject(parent) {}
+
+void IsolationTableDelegate::setMaterial(const MaterialRef& material)
+{
+    m_material = material;
+    emit materialChanged();
+    reloadData();
+}
+
+int IsolationTableDelegate::savedUnits()
+{
+    return QSettings().value(QLatin1String(kSavedUnitsKey), 0).toInt();
+}
+
+void IsolationTableDelegate::segmentAction(int index)
+{
+    QSettings().setValue(QLatin1String(kSavedUnitsKey), index);
+    reloadData();
+}
+
+static QUrl packIcon(const QString& file)
+{
+    return Resources::exists(file) ? QUrl::fromLocalFile(Resources::path(file)) : QUrl();
+}
+
+QUrl IsolationTableDelegate::dayIcon()
+{
+    return packIcon(QStringLiteral("Cloudy-Daytime-icon.png"));
+}
+
+QUrl IsolationTableDelegate::nightIcon()
+{
+    return packIcon(QStringLiteral("Cloudy-Nighttime-icon.png"));
+}
+
+void IsolationTableDelegate::infoButtonClicked()
+{
+    emit infoPageRequested(QLatin1String(kInfoPage), L::tr("Isolation Distances"));
+}
+
+OrderedMap<QString> IsolationTableDelegate::largeSpillIsoDistancesForMaterial(const Material& material)
+{
+    switch (leadingInt(material.unId)) {
+    case 1005: return containerMap(k1005);
+    case 1017: return containerMap(k1017);
+    case 1040: return containerMap(k1040);
+    case 1050:
+    case 2186: return containerMap(k1050);
+    case 1052: return containerMap(k1052);
+    case 1079: return containerMap(k1079);
+    default: return {};
+    }
+}
+
+QString IsolationTableDelegate::tihProducedText(const Material& material)
+{
+    const QString tih = material.toxicInhalationHazard.value_or(QString());
+    if (tih.isEmpty() || tih == QLatin1String("X"))
+        return QString();
+    const QString label = tih.contains(QLatin1Char(',')) ? L::tr("TIH Gases Produced:") : L::tr("TIH Gas Produced:");
+    return QStringLiteral("%1 %2").arg(label, tih);
+}
+
+QString IsolationTableDelegate::withWaterSuffix(const QString& title) const
+{
+    // Only the water-reactive case names its gases in the header.
+    if (!m_material.ptr || !title.contains(QLatin1String("Water")))
+        return title;
+    const QString gases = tihProducedText(*m_material.ptr);
+    return gases.isEmpty() ? title : QStringLiteral("%1 (%2)").arg(title, gases);
+}
+
+QVariantMap IsolationTableDelegate::conditionCell(const QMap<QString, QString>& record, int units)
+{
+    const bool metric = units == Metric;
+    QVariantMap cell;
+    for (const QString& spill : { kSmall, kLarge }) {
+        const QString prefix = spill == kSmall ? QStringLiteral("small") : QStringLiteral("large");
+        auto value = [&](const char* what) {
+            return record.value(QStringLiteral("%1 %2 %3").arg(spill, QLatin1String(what), metric ? QStringLiteral("Metric") : QStringLiteral("Imp")));
+        };
+        cell.insert(prefix + QStringLiteral("Isolate"), withUnit(value("Initial isolation distance"), metric ? "m" : "ft"));
+        cell.insert(prefix + QStringLiteral("Day"), withUnit(value("Protect distance Day"), metric ? "km" : "mi"));
+        cell.insert(prefix + QStringLiteral("Night"), withUnit(value("Protect distance Night"), metric ? "km" : "mi"));
+    }
+    return cell;
+}
+
+QVariantMap IsolationTableDelegate::largeSpillCell(const QString& row, int units)
+{
+    const QStringList f = row.split(QLatin1Char(','));
+    QVariantMap cell;
+    if (f.size() < 14) {
+        qWarning("isolation: container row with %d fields, 14 expected: %s", int(f.size()), qPrintable(row));
+        return cell;
+    }
+    const bool metric = units == Metric;
+    const char* unit = metric ? "km" : "mi";
+    const int first = metric ? 0 : 1;
+    cell.insert(QStringLiteral("isolate"), withUnit(f.at(first), metric ? "m" : "ft"));
+    cell.insert(QStringLiteral("windCaptions"),
+                metric ? QStringList{ L::tr("Low wind (< 10 km/h):"), L::tr("Moderate wind (10-20 km/h):"), L::tr("High wind (> 20 km/h):") }
+                       : QStringList{ L::tr("Low wind (< 6 mph):"), L::tr("Moderate wind (6-12 mph):"), L::tr("High wind (> 12 mph):") });
+    QStringList day, night;
+    for (int i = 0; i < 3; ++i) {
+        day << withUnit(f.at(2 + first + 2 * i), unit);
+        night << withUnit(f.at(8 + first + 2 * i), unit);
+    }
+    cell.insert(QStringLiteral("day"), day);
+    cell.insert(QStringLiteral("night"), night);
+    return cell;
+}
+
+QString IsolationTableDelegate::titleForSection(int section) const
+{
+    if (section < 0 || section >= m_sections.size())
+        return QString();
+    return m_sections.at(section).toMap().value(QStringLiteral("title")).toString();
+}
+
+void IsolationTableDelegate::reloadData()
+{
+    m_sections.clear();
+    if (m_material.ptr) {
+        Material& material = *m_material.ptr;
+        const IsolationDistances& iso = QORModel::sharedInstance()->isolationDistancesForMaterial(material);
+        const OrderedMap<QString> containers = largeSpillIsoDistancesForMaterial(material);
+        const int units = savedUnits();
+        const qsizetype n = containers.count();
+        auto addCondition = [&](const QString& key, bool first) {
+            const IsolationRecord record = iso.value(key);
+            QVariantMap s = conditionCell(record, units);
+            s.insert(QStringLiteral("kind"), QStringLiteral("condition"));
+            s.insert(QStringLiteral("title"), withWaterSuffix(capitalized(record.value(QStringLiteral("Condition")))));
+            // The container table replaces the large-spill half of the first condition.
+            const bool shortCell = first && n > 0;
+            s.insert(QStringLiteral("hideLargeSpill"), shortCell || !record.contains(QStringLiteral("Large Spill Initial isolation distance Imp")));
+            s.insert(QStringLiteral("height"), shortCell ? kShortRowHeight : kRowHeight);
+            m_sections.append(s);
+        };
+        const QStringList& keys = iso.keys();
+        if (!keys.isEmpty())
+            addCondition(keys.first(), true);
+        for (const QString& name : containers.keys()) {
+            QVariantMap s = largeSpillCell(containers.value(name), units);
+            s.insert(QStringLiteral("kind"), QStringLiteral("container"));
+            s.insert(QStringLiteral("title"), withWaterSuffix(name));
+            s.insert(QStringLiteral("height"), kRowHeight);
+            m_sections.append(s);
+        }
+        // Further conditions follow the container table rather than being dropped.
+        for (qsizetype i = 1; i < keys.size(); ++i)
+            addCondition(keys.at(i), false);
+    }
+    emit tableChanged();
+}
+
+} // namespace qor

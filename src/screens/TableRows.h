@@ -1,0 +1,41 @@
+#pragma once
+// Rows of a sectioned table as QML reads them: one map per row with its
+// "kind" and texts; the first row of a section carries the section header.
+#include <QString>
+#include <QVariantList>
+#include <QVariantMap>
+
+namespace qor {
+
+class TableRows {
+public:
+    // infoPage names the information page behind the header's info button.
+    void beginSection(const QString& header = QString(), const QString& infoPage = QString())
+    {
+        ++m_section;
+        m_header = header;
+        m_infoPage = infoPage;
+        m_sectionStart = true;
+    }
+    void add(const QString& kind, QVariantMap fields = QVariantMap())
+    {
+        fields.insert(QStringLiteral("kind"), kind);
+        fields.insert(QStringLiteral("section"), m_section);
+        fields.insert(QStringLiteral("sectionStart"), m_sectionStart);
+        fields.insert(QStringLiteral("header"), m_sectionStart ? m_header : QString());
+        fields.insert(QStringLiteral("infoPage"), m_sectionStart ? m_infoPage : QString());
+        m_sectionStart = false;
+        m_rows.append(fields);
+    }
+    int sectionCount() const { return m_section + 1; }
+    const QVariantList& rows() const { return m_rows; }
+
+private:
+    QVariantList m_rows;
+    QString m_header;
+    QString m_infoPage;
+    int m_section = -1;
+    bool m_sectionStart = false;
+};
+
+} // namespace qor

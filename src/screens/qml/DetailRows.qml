@@ -1,0 +1,229 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import QOR
+
+// A sectioned table of controller rows (maps with a "kind"); presents only.
+ListView {
+    id: table
+    property bool dark: Appearance.dark
+    signal rowClicked(var row, int index)
+    signal infoClicked(string page, string title)
+    signal copyRequested(string text)
+    clip: true
+    spacing: 1
+    boundsBehavior: Flickable.StopAtBounds
+    ScrollBar.vertical: ScrollBar {}
+
+    delegate: Column {
+        id: cell
+        required property var modelData
+        required property int index
+        width: ListView.view.width
+        Rectangle {
+            visible: cell.modelData.sectionStart && cell.modelData.header.length > 0
+            width: parent.width
+            height: visible ? QorTheme.touchTarget : 0
+            color: QorTheme.sectionBackground
+            Label {
+                anchors.verticalCenter: parent.verticalCenter
+                x: 12
+                width: parent.width - 70
+                text: cell.modelData.header
+                color: "white"
+                font.bold: true
+                font.pixelSize: 15
+                elide: Text.ElideRight
+            }
+            ToolButton {
+                visible: cell.modelData.infoPage.length > 0
+                anchors.right: parent.right
+                width: QorTheme.touchTarget
+                height: QorTheme.touchTarget
+                text: "i"
+                font.pixelSize: 18
+                font.bold: true
+                font.italic: true
+                Accessible.name: qsTr("About %1").arg(cell.modelData.header)
+                onClicked: table.infoClicked(cell.modelData.infoPage, cell.modelData.header)
+            }
+        }
+        Loader {
+            property var row: cell.modelData
+            width: parent.width
+            sourceComponent: {
+                switch (cell.modelData.kind) {
+                case "top": return topCell
+                case "nfpa": return nfpaCell
+                case "npg": return npgCell
+                case "ghs": return ghsCell
+                case "iso": return isoCell
+                case "incident": return incidentCell
+                default: return textCell
+                }
+            }
+        }
+        TapHandler { onTapped: table.rowClicked(cell.modelData, cell.index) }
+    }
+
+    Component {
+        id: topCell
+        Rectangle {
+            readonly property var row: parent ? parent.row : ({})
+            height: Math.max(110, info.implicitHeight + 20)
+            color: QorTheme.pageBackground
+            Image {
+                id: placard
+                x: 12; y: 10
+                width: 90; height: 90
+                source: QorTheme.pdf(row.placardImage, 90, 90)
+            }
+            ColumnLayout {
+                id: info
+                anchors { left: placard.right; leftMargin: 12; right: copy.left; top: parent.top; topMargin: 10 }
+                Label { text: row.name; color: "white"; font.pixelSize: 20; font.bold: true; wrapMode: Text.Wrap; Layout.fillWidth: true }
+                Label { text: row.unId; color: "#ffb045"; font.pixelSize: 22; font.bold: true }
+                Label { text: qsTr("Hazard Class") + " " + row.hazardClass; color: "#dddddd"; font.pixelSize: 14; visible: row.hazardClass.length > 0 }
+                Label { text: QorTheme.sampleNotice; color: "#ffb045"; font.pixelSize: 11 }
+            }
+            ToolButton {
+                id: copy
+                anchors { right: parent.right; top: parent.top }
+                width: 64; height: QorTheme.touchTarget
+                text: qsTr("Copy")
+                Accessible.name: qsTr("Copy")
+                onClicked: table.copyRequested(row.copyText)
+            }
+        }
+    }
+    Component {
+        id: nfpaCell
+        Rectangle {
+            readonly property var row: parent ? parent.row : ({})
+            height: 190
+            color: "white"
+            NfpaDiamond {
+                objectName: "nfpaDiamond"
+                anchors.centerIn: parent
+                side: 125
+                health: row.health; fire: row.fire; risk: row.risk; other: row.other
+            }
+        }
+    }
+    Component {
+        id: npgCell
+        Rectangle {
+            readonly property var row: parent ? parent.row : ({})
+            height: Math.max(100, npgInfo.implicitHeight + 20)
+            color: QorTheme.pageBackground
+            ColumnLayout {
+                id: npgInfo
+                anchors { left: parent.left; leftMargin: 12; right: npgCopy.left; top: parent.top; topMargin: 10 }
+                Label { text: row.name; color: "white"; font.pixelSize: 18; font.bold: true; wrapMode: Text.Wrap; Layout.fillWidth: true }
+                Label { text: row.formula; color: "#dddddd"; font.pixelSize: 16; visible: text.length > 0 }
+                Label { text: row.cas; color: "#dddddd"; font.pixelSize: 14; visible: text.length > 0 }
+                Label { text: row.rtecs; color: "#dddddd"; font.pixelSize: 14; visible: text.length > 0 }
+            }
+            ToolButton {
+                id: npgCopy
+                anchors { right: parent.right; top: parent.top }
+                width: 64; height: QorTheme.touchTarget
+                text: qsTr("Copy")
+                Accessible.name: qsTr("Copy")
+                onClicked: table.copyRequested(row.copyText)
+            }
+        }
+    }
+    Component {
+        id: ghsCell
+        Rectangle {
+            readonly property var row: parent ? parent.row : ({})
+            height: ghsCol.implicitHeight + 20
+            color: "white"
+            Column {
+                id: ghsCol
+                x: 10; y: 10
+                width: parent.width - 20
+                spacing: 6
+                Row {
+                    Repeater {
+                        model: row.pictograms
+                        Image { required property string modelData; width: 40; height: 40; source: QorTheme.pdf(modelData, 40, 40) }
+                    }
+                }
+                Repeater {
+                    model: row.expanded ? row.statements : row.statements.slice(0, 2)
+                    Label { required property string modelData; text: modelData; color: "black"; wrapMode: Text.Wrap; width: ghsCol.width }
+                }
+                Label {
+                    visible: row.statements.length > 2
+                    text: row.expanded ? qsTr("Show less") : qsTr("Show all %1 statements").arg(row.statements.length)
+                    color: "#1f5fae"
+                    font.bold: true
+                    height: QorTheme.touchTarget
+                    verticalAlignment: Text.AlignVCenter
+                }
+            }
+        }
+    }
+    Component {
+        id: isoCell
+        Rectangle {
+            readonly property var row: parent ? parent.row : ({})
+            height: Math.max(64, isoCol.implicitHeight + 20)
+            color: table.dark ? QorTheme.isolationGreenDark : QorTheme.isolationGreen
+            Column {
+                id: isoCol
+                anchors { left: parent.left; leftMargin: 12; right: parent.right; rightMargin: 36; verticalCenter: parent.verticalCenter }
+                Label { text: row.title; color: "black"; font.pixelSize: 16; font.bold: true; wrapMode: Text.Wrap; width: parent.width }
+                Label { text: row.subtitle; color: "black"; font.pixelSize: 13; font.bold: true; visible: text.length > 0; wrapMode: Text.Wrap; width: parent.width }
+            }
+            Label { anchors.right: parent.right; anchors.rightMargin: 12; anchors.verticalCenter: parent.verticalCenter; text: "›"; font.pixelSize: 28; color: "black" }
+        }
+    }
+    Component {
+        id: incidentCell
+        Rectangle {
+            readonly property var row: parent ? parent.row : ({})
+            height: incidentText.implicitHeight + 20
+            color: QorTheme.pageBackground
+            Label {
+                id: incidentText
+                x: 12; y: 10
+                width: parent.width - 24
+                text: row.text
+                color: "white"
+                font.pixelSize: 14
+                maximumLineCount: 5
+                wrapMode: Text.Wrap
+                elide: Text.ElideRight
+            }
+        }
+    }
+    Component {
+        id: textCell
+        Rectangle {
+            readonly property var row: parent ? parent.row : ({})
+            readonly property bool opens: ["guide", "entry", "provision"].indexOf(row.kind) >= 0 || (row.kind === "shipping" && row.selectable
+                                            && ["nonBulk", "bulk", "specialProvisions"].indexOf(row.key) >= 0)
+            height: Math.max(QorTheme.touchTarget + 6, textCol.implicitHeight + 16)
+            color: QorTheme.pageBackground
+            Column {
+                id: textCol
+                anchors { left: parent.left; leftMargin: 12; right: parent.right; rightMargin: 36; verticalCenter: parent.verticalCenter }
+                spacing: 2
+                Label { text: row.caption || ""; visible: text.length > 0; color: "#ffb045"; font.pixelSize: 14; font.bold: true; width: parent.width; wrapMode: Text.Wrap }
+                Label {
+                    text: row.text || ""
+                    color: "white"
+                    font.pixelSize: row.kind === "guide" ? 20 : 15
+                    font.bold: row.kind === "guide" || row.kind === "entry" || row.kind === "provision"
+                    wrapMode: Text.Wrap
+                    width: parent.width
+                }
+                Label { text: row.detail || ""; visible: text.length > 0; color: "#cccccc"; font.pixelSize: 13; width: parent.width; wrapMode: Text.Wrap }
+            }
+            Label { visible: opens; anchors.right: parent.right; anchors.rightMargin: 12; anchors.verticalCenter: parent.verticalCenter; text: "›"; font.pixelSize: 28; color: "#cccccc" }
+        }
+    }
+}

@@ -1,0 +1,49 @@
+import QtQuick
+
+// The NFPA 704 diamond: health (blue, left), fire (red, top), reactivity
+// (yellow, right) and special hazards (white, bottom).
+Item {
+    id: diamond
+    property string health
+    property string fire
+    property string risk
+    property string other
+    property real side: 120
+    width: side * 1.42
+    height: side * 1.42
+
+    Item {
+        anchors.centerIn: parent
+        width: diamond.side
+        height: diamond.side
+        rotation: 45
+        Grid {
+            columns: 2
+            Repeater {
+                model: [
+                    { c: "#d7261e", v: diamond.fire, n: "fire" },
+                    { c: "#f7e11b", v: diamond.risk, n: "risk" },
+                    { c: "#1f5fae", v: diamond.health, n: "health" },
+                    { c: "#ffffff", v: diamond.other, n: "other" }
+                ]
+                Rectangle {
+                    required property var modelData
+                    width: diamond.side / 2
+                    height: diamond.side / 2
+                    color: modelData.c
+                    border.color: "black"
+                    border.width: 2
+                    Text {
+                        objectName: "nfpa_" + modelData.n
+                        anchors.centerIn: parent
+                        rotation: -45
+                        text: modelData.v
+                        font.pixelSize: diamond.side / 4.5
+                        font.bold: true
+                        color: modelData.n === "health" ? "white" : "black"
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,20 @@
+import QtQuick
+import QtQuick.Controls
+import QtWebEngine
+import QOR
+
+// A part 173 section as HTML built from the regulations database.
+Page {
+    id: page
+    objectName: "regulationPage"
+    property string html
+    property string backText: qsTr("Back")
+    property alias web: web
+    background: Rectangle { color: "white" }
+    header: BarHeader { page: page; title: page.title; backText: page.backText }
+    WebEngineView {
+        id: web
+        anchors.fill: parent
+        Component.onCompleted: loadHtml(page.html, "file:///")
+    }
+}

@@ -1,0 +1,109 @@
+import QtQuick
+import QtQuick.Controls
+import QtTest
+import QOR
+
+TestCase {
+    id: test
+    name: "Detail"
+    when: windowShown
+    property var win
+
+    Component { id: mainComponent; Main {} }
+
+    function initTestCase() {
+        win = mainComponent.createObject(null)
+        verify(win)
+        AppDelegate.currentTab = AppDelegate.MaterialsTab
+    }
+    function cleanupTestCase() { win.destroy() }
+
+    function list() { return win.materialList }
+    function stack() { return list().StackView.view }
+
+    function cleanup() {
+        list().endSearch()
+        stack().pop(null, StackView.Immediate)
+        AppDelegate.currentTab = AppDelegate.MaterialsTab
+    }
+
+    function openMaterial(unId) {
+        var field = list().searchField
+        field.text = unId
+        field.textEdited()
+        tryVerify(function() { return list().controller.rowCount() > 0 && list().controller.materialAt(0).unId === unId }, 3000)
+        list().openRow(0)
+        tryCompare(stack(), "busy", false)
+        tryCompare(stack(), "depth", 2)
+        var page = stack().currentItem
+        compare(page.objectName, "materialDetail")
+        return page
+    }
+
+    function rowOfKind(page, kind) {
+        var rows = page.controller.rows
+        for (var i = 0; i < rows.length; ++i)
+            if (rows[i].kind === kind)
+                return rows[i]
+        return null
+    }
+
+    function test_tabsSwitchTheRows() {
+        var page = openMaterial("1005")
+        mouseClick(findChild(page, "segment0"))
+        verify(rowOfKind(page, "guide"))
+        mouseClick(findChild(page, "segment1"))
+        compare(page.controller.selectedViewIndex, 1)
+        verify(rowOfKind(page, "incident"), "the shipping tab shows the incident summary")
+        tryVerify(function() { return page.table.count === page.controller.rows.length })
+        mouseClick(findChild(page, "segment0"))
+    }
+
+    function test_isolationUnits() {
+        var page = openMaterial("1005")
+        var iso = page.openIsolation()
+        tryCompare(stack(), "busy", false)
+        compare(stack().currentItem.objectName, "isolationPage")
+        var table = iso.table
+        var metric = findChild(iso, "units1")
+        verify(metric)
+        mouseClick(metric)
+        compare(table.delegateController.units, 1)
+        compare(table.delegateController.sections[1].isolate, "300 m", "1005 rail tank car")
+        mouseClick(findChild(iso, "units0"))
+        compare(table.delegateController.sections[1].isolate, "1000 ft")
+    }
+
+    function test_openGuideFromDetail() {
+        var page = openMaterial("1005")
+        AppDelegate.showGuideForMaterial(page.material.guideId, page.material)
+        compare(AppDelegate.currentTab, AppDelegate.GuidesTab)
+        tryVerify(function() {
+            var item = findChild(win.contentItem, "guidePage")
+            return item && item.controller.guideId === page.material.guideId
+        }, 3000)
+        var guide = findChild(win.contentItem, "guidePage")
+        compare(guide.title, "Guide " + page.material.guideId)
+        guide.controller.sliderChanged(500)
+        compare(guide.controller.textFontSize, 130)
+        compare(guide.host.zoom, 1.3, "the page really scales")
+        guide.controller.sliderChanged(100)
+    }
+
+    function test_openPart173Page() {
+        var page = openMaterial("1005")
+        var entry = page.controller.shipping.entryAt(0)
+        if (!entry.nonBulk)  // the pack in use may lack shipping rows for 1005
+            entry = { name: "Sample entry", nonBulk: "202 " }
+        var table = Qt.createQmlObject("import QOR; ShippingTableDelegate {}", test)
+        table.attributes = entry
+        var action = table.actionForKey("nonBulk")
+        compare(action.kind, "cfr")
+        verify(action.html.indexOf("<body>") > 0)
+        var regulation = page.openAction(action)
+        tryCompare(stack(), "busy", false)
+        compare(stack().currentItem.objectName, "regulationPage")
+        compare(regulation.title, "49CFR § 173." + entry.nonBulk.replace(/ /g, ""))
+        table.destroy()
+    }
+}

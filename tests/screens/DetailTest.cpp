@@ -1,0 +1,186 @@
+// The material detail screen: tabs, summary rows, shipping rows and the protection tab.
+#include "FixturePack.h"
+
+#include "AppLinks.h"
+#include "MaterialViewController.h"
+#include "ShippingControllers.h"
+#include "model/Device.h"
+#include "model/QORModel.h"
+#include "model/Resources.h"
+
+#include <gtest/gtest.h>
+
+using namespace qor;
+using qor::test::FixturePack;
+using qor::test::ModelFixture;
+
+namespace {
+
+QList<QVariantMap> rowsOf(const QVariantList& list)
+{
+    QList<QVariantMap> out;
+    for (const QVariant& v : list)
+        out << v.toMap();
+    return out;
+}
+
+QVariantMap rowOfKind(const QVariantList& list, const QString& kind, const QString& key = QString())
+{
+    for (const QVariantMap& r : rowsOf(list))
+        if (r.value("kind") == kind && (key.isEmpty() || r.value("key") == key))
+            return r;
+    return {};
+}
+
+struct DetailTest : ::testing::Test {
+    FixturePack pack;
+    std::unique_ptr<ModelFixture> fixture;
+    QORModel* model = nullptr;
+    void SetUp() override
+    {
+        pack.setMaterials({ "AMMONIA, ANHYDROUS^2.2^125^1005^X^^", "ACETONE^3^127^1090^^^", "SARIN^6.1^153^2810^^^GB",
+                            "SODIUM^4.3^138^1428^^W^", "STYRENE MONOMER^3^128P^2055^^^" });
+        pack.setGuides({ "125^Gases - Corrosive", "127^Flammable Liquids" });
+        pack.sql("npg.db",
+                 "insert into iso_distances values ('1005',NULL,'30','100','0.1','0.1','0.2','0.1','','','','','','');"
+                 "insert into iso_distances values ('1428','Spilled in Water','30','100','0.1','0.1','0.2','0.1','','','','','','');"
+                 "insert into nfpa values ('1005','Ammonia, Anhydrous','3','1','0','');"
+                 "insert into cameo values ('1','AMMONIA, ANHYDROUS','7664-41-7','1005','A colorless gas.','NH3','Toxic by inhalation.');"
+                 "insert into ghs values ('7664-41-7','GHS04,dgr,GHS05,wng','H221,H280, H314');"
+                 "insert into hmt values ('1005','Ammonia, anhydrous','','2.2','','2.2, 2.3','A1, B2','','203 ','314','Forbidden','25 kg','D','','');"
+                 "insert into hmt values ('1090','Acetone','','3','II','3','A1,B2','','202','242','5 L','60 L','B','','');"
+                 "insert into hmt values ('1090','Acetone solution','I','3','III','3','','','203','242','','','','','');");
+        pack.sql("cfr49.db", "insert into cfr_text values ('173.203','n1','<p>Non-bulk packagings for liquids</p>','');");
+        fixture = std::make_unique<ModelFixture>();
+        model = QORModel::sharedInstance();
+        Device::setTablet(false);
+        Preferences::setLanguageOverride("en");
+    }
+    void TearDown() override
+    {
+        Device::setTablet(false);
+        Preferences::setLanguageOverride(QString());
+    }
+
+    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials, unId.toInt())); }
+};
+
+} // namespace
+
+TEST_F(DetailTest, SegmentsFollowTheChemistryDataAndTheChoiceFallsBack)
+{
+    MaterialViewController screen;
+    screen.setMaterialGuide(material("1005"));
+    EXPECT_EQ(screen.segmentCount(), 3);
+    EXPECT_EQ(screen.segmentWidth(), 400);
+    EXPECT_EQ(screen.backTitle(), "UN1005");
+    screen.setSelectedViewIndex(MaterialViewController::ProtectionTab);
+    EXPECT_EQ(rowOfKind(screen.rows(), "npg").value("name"), "Ammonia, Anhydrous");
+
+    MaterialViewController other;
+    other.setMaterialGuide(material("1090"));
+    EXPECT_EQ(other.segmentCount(), 2) << "no chemistry attributes and no CAS number";
+    EXPECT_EQ(other.segmentWidth(), 300);
+    EXPECT_EQ(other.selectedViewIndex(), MaterialViewController::SummaryTab);
+    EXPECT_FALSE(rowOfKind(other.rows(), "guide").isEmpty()) << "shows the summary rows";
+
+    other.setSelectedViewIndex(MaterialViewController::ShippingTab);
+    screen.setMaterialGuide(material("1005"));
+    EXPECT_EQ(screen.selectedViewIndex(), MaterialViewController::ShippingTab) << "kept across materials";
+
+    MaterialViewController agent;
+    agent.setMaterialGuide(material("2810"));
+    EXPECT_EQ(agent.backTitle(), "Back") << "a warfare agent does not name its UN number";
+}
+
+TEST_F(DetailTest, SummaryRowsAndTheNfpaSectionOnPhonesOnly)
+{
+    SummaryTableDelegate summary;
+    summary.setMaterial(material("1005").ptr);
+    EXPECT_EQ(summary.numberOfSections(), 3);
+    const QVariantMap nfpa = rowOfKind(summary.rows(), "nfpa");
+    EXPECT_EQ(nfpa.value("health"), "3");
+    EXPECT_EQ(nfpa.value("fire"), "1");
+    EXPECT_EQ(rowOfKind(summary.rows(), "guide").value("text"), "Guide 125");
+
+    QStringList keys;
+    for (const auto& a : summary.availableAttributes())
+        keys << a.first;
+    EXPECT_EQ(keys, QStringList({ "ISO", "toxicInhalationHazard", "physDesc" }));
+    const QVariantMap iso = rowOfKind(summary.rows(), "iso");
+    EXPECT_EQ(iso.value("title"), "Isolation Distances") << "the default condition keeps the plain title";
+    EXPECT_TRUE(iso.value("subtitle").toString().isEmpty()) << "a TIH mark of X names no gas";
+
+    Device::setTablet(true);
+    summary.setMaterial(material("1005").ptr);
+    EXPECT_EQ(summary.numberOfSections(), 2);
+    EXPECT_TRUE(rowOfKind(summary.rows(), "nfpa").isEmpty());
+    Device::setTablet(false);
+
+    summary.setMaterial(material("1090").ptr);
+    EXPECT_EQ(summary.numberOfSections(), 2) << "no NFPA record";
+
+    summary.setMaterial(material("1428").ptr);
+    EXPECT_EQ(rowOfKind(summary.rows(), "iso").value("title"), "Isolation Distances\n (Spilled in Water)");
+    EXPECT_EQ(rowOfKind(summary.rows(), "text", "waterReactive").value("caption"), "Note:");
+
+    summary.setMaterial(material("2055").ptr);
+    EXPECT_EQ(rowOfKind(summary.rows(), "guide").value("text"), "Guide 128P");
+}
+
+TEST_F(DetailTest, ShippingRowsProvisionsAndPart173Pages)
+{
+    ShippingTabViewController tab;
+    tab.setMaterial(material("1005").ptr);
+    const QList<QVariantMap> rows = rowsOf(tab.rows());
+    ASSERT_EQ(rows.size(), 2 + 7) << "one entry named as the material shows its rows inline";
+    EXPECT_EQ(rows.at(1).value("header"), "Reported Incidents");
+    EXPECT_EQ(rows.at(2).value("header"), "Shipping Regulations");
+    EXPECT_EQ(rows.at(2).value("text"), "None") << "no packing group";
+
+    ShippingTableDelegate entry;
+    entry.setAttributes(model->getHmtEntriesForMaterial(*material("1005").ptr).first());
+    const QVariantMap provisions = entry.actionForKey("specialProvisions");
+    EXPECT_EQ(provisions.value("provisions").toStringList(), QStringList({ "A1", "B2" }));
+    EXPECT_EQ(provisions.value("headerTitle"), "Ammonia, anhydrous");
+    const QVariantMap page = entry.actionForKey("nonBulk");
+    EXPECT_EQ(page.value("title"), "49CFR § 173.203") << "blanks removed";
+    EXPECT_TRUE(page.value("html").toString().contains("Non-bulk packagings for liquids"));
+    EXPECT_TRUE(entry.actionForKey("loc").isEmpty());
+
+    tab.setMaterial(material("1090").ptr);
+    QList<QVariantMap> entries;
+    for (const QVariantMap& r : rowsOf(tab.rows()))
+        if (r.value("kind") == "entry")
+            entries << r;
+    ASSERT_EQ(entries.size(), 2);
+    EXPECT_EQ(entries.at(0).value("detail"), "Packing Group:  II Medium Danger");
+    EXPECT_EQ(entries.at(1).value("detail"), "Packing Group:  III Minor Danger");
+    entry.setAttributesMap(tab.entryAt(0));
+    EXPECT_EQ(entry.actionForKey("specialProvisions").value("provisions").toStringList(), QStringList({ "A1,B2" }));
+
+    ShippingSpecialProvisionsTableDelegate list;
+    list.setProvisions({ "IB3", "128" });
+    EXPECT_EQ(rowsOf(list.rows()).at(0).value("detail"), "Intermediate Bulk Containers");
+    EXPECT_EQ(list.chooseProvision(0).value("title"), "IBC");
+    EXPECT_EQ(list.chooseProvision(1).value("category"), "numeric");
+}
+
+TEST_F(DetailTest, ProtectionTabCellsAndCopyTexts)
+{
+    ProtectionTableDelegate tab;
+    tab.setMaterial(material("1005").ptr);
+    EXPECT_EQ(tab.keys(), QStringList({ "CameoHazardText" })) << "no IDLH value";
+    EXPECT_EQ(tab.labels().first().second, "Exposure:") << "ordered by caption";
+    const QVariantMap npg = rowOfKind(tab.rows(), "npg");
+    EXPECT_EQ(npg.value("copyText"), "Ammonia, Anhydrous\nNH₃\nCAS#: 7664-41-7");
+    const QVariantMap ghs = rowOfKind(tab.rows(), "ghs");
+    EXPECT_EQ(ghs.value("pictograms").toStringList(), QStringList({ "ghs04.pdf", "ghs05.pdf" })) << "signal words skipped";
+    EXPECT_EQ(ghs.value("statements").toStringList(), QStringList({ "H221", "H280", "H314" }));
+    EXPECT_FALSE(ghs.value("expanded").toBool());
+    tab.toggleGhsDetails();
+    EXPECT_TRUE(rowOfKind(tab.rows(), "ghs").value("expanded").toBool());
+
+    const QVariantMap top = materialOverviewRow(*material("1005").ptr);
+    EXPECT_TRUE(top.value("copyText").toString().startsWith("Ammonia, Anhydrous\nUN1005\nHazard Class "));
+}

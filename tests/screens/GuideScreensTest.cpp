@@ -1,0 +1,155 @@
+// The guide page, guide list and information screens, and the page view the
+// app shows pages in.
+#include "FixturePack.h"
+
+#include "AppLinks.h"
+#include "GuideControllers.h"
+#include "WebEnginePageView.h"
+#include "model/QORModel.h"
+
+#include <QSettings>
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+using namespace qor;
+using qor::test::FixturePack;
+using qor::test::ModelFixture;
+
+namespace {
+
+struct GuideScreensTest : ::testing::Test {
+    FixturePack pack;
+    std::unique_ptr<ModelFixture> fixture;
+    QORModel* model = nullptr;
+    void SetUp() override
+    {
+        pack.setMaterials({ "AMMONIA, ANHYDROUS^2.2^125^1005^X^^", "ACETONE^3^127^1090^^^" });
+        pack.setGuides({ "125^Gases - Corrosive", "127^Flammable Liquids", "128^Flammable Liquids (Water-Immiscible)" });
+        pack.sql("npg.db", "insert into iso_distances values ('1005',NULL,'30','100','0.1','0.1','0.2','0.1','','','','','','');");
+        fixture = std::make_unique<ModelFixture>();
+        model = QORModel::sharedInstance();
+        model->loadGuideList();
+        QSettings settings;
+        settings.remove(GuideViewController::kTextFontSizeKey);
+        settings.remove(GuideViewController::kRotatePromptKey);
+    }
+    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials, unId.toInt())); }
+};
+
+} // namespace
+
+TEST_F(GuideScreensTest, TextSizeIsBoundedAndStored)
+{
+    GuideViewController guide;
+    EXPECT_EQ(guide.textFontSize(), 100);
+    guide.sliderChanged(40);
+    EXPECT_EQ(QSettings().value("textFontSize").toDouble(), 65);
+    guide.sliderChanged(300);
+    EXPECT_EQ(guide.textFontSize(), 130);
+    guide.sliderChanged(110);
+    EXPECT_EQ(guide.textFontSize(), 110);
+}
+
+TEST_F(GuideScreensTest, RotatePromptUntilSeenInLandscape)
+{
+    GuideViewController guide;
+    guide.setGuide("125");
+    guide.viewWillAppear(800, 400);
+    EXPECT_TRUE(QSettings().value("kUserHasSeenGuideViewRotatePrompt").toBool());
+    QSignalSpy shown(&guide, &GuideViewController::rotatePromptVisibleChanged);
+    EXPECT_FALSE(shown.wait(GuideViewController::kPromptDelayMs + 300));
+
+    QSettings().remove(GuideViewController::kRotatePromptKey);
+    GuideViewController portrait;
+    portrait.setGuide("125");
+    QSignalSpy prompt(&portrait, &GuideViewController::rotatePromptVisibleChanged);
+    portrait.viewWillAppear(400, 800);
+    EXPECT_FALSE(portrait.rotatePromptVisible()) << "shown after a delay";
+    ASSERT_TRUE(prompt.wait(3000));
+    EXPECT_TRUE(portrait.rotatePromptVisible());
+    portrait.prepareViewsForSize(800, 400);
+    portrait.viewWillAppear(800, 400);
+    EXPECT_FALSE(portrait.rotatePromptVisible());
+}
+
+TEST_F(GuideScreensTest, IsolationPanelOnlyForAMaterialWithDistances)
+{
+    GuideViewController fromList;
+    fromList.setGuide("125");
+    fromList.prepareViewsForSize(900, 400);
+    EXPECT_FALSE(fromList.isolationVisible());
+    EXPECT_EQ(fromList.webWidth(), 900);
+
+    GuideViewController fromMaterial;
+    fromMaterial.setGuide("125");
+    fromMaterial.setMaterial(material("1005"));
+    fromMaterial.prepareViewsForSize(900, 400);
+    EXPECT_TRUE(fromMaterial.isolationVisible());
+    EXPECT_EQ(fromMaterial.webWidth(), 450);
+    EXPECT_EQ(fromMaterial.panelX(), 450);
+    EXPECT_EQ(fromMaterial.panelWidth(), 500);
+    fromMaterial.prepareViewsForSize(400, 900);
+    EXPECT_EQ(fromMaterial.webWidth(), 400) << "portrait: the panel waits off screen";
+    EXPECT_EQ(fromMaterial.panelX(), 400);
+
+    fromMaterial.setMaterial(material("1090"));
+    fromMaterial.prepareViewsForSize(900, 400);
+    EXPECT_FALSE(fromMaterial.isolationVisible()) << "no distances for this material";
+    EXPECT_EQ(fromMaterial.title(), "Guide 125");
+}
+
+TEST_F(GuideScreensTest, InfoPageLinks)
+{
+    InfoViewController info;
+    QSignalSpy guides(&info, &InfoViewController::guideRequested);
+    QSignalSpy outside(&info, &InfoViewController::externalUrlRequested);
+    info.decidePolicyForNavigation("showguide://128");
+    ASSERT_EQ(guides.count(), 1);
+    EXPECT_EQ(guides.at(0).at(0).toString(), "128");
+    EXPECT_EQ(guides.at(0).at(1).toString(), "Guide 128");
+    info.decidePolicyForNavigation("showguide://999");
+    info.decidePolicyForNavigation("file:///pack/other.html");
+    EXPECT_EQ(guides.count(), 1) << "unknown guides and page links do nothing more";
+    EXPECT_TRUE(outside.isEmpty());
+    info.decidePolicyForNavigation("https://example.org/app");
+    EXPECT_EQ(outside.count(), 1);
+}
+
+TEST_F(GuideScreensTest, GuideListLoadsVisibleGuidesOnlyAtRest)
+{
+    GuideListViewController list;
+    EXPECT_EQ(list.rowCount(), 3);
+    EXPECT_EQ(list.data(list.index(2), GuideListViewController::GuideIdRole), "128");
+    list.startLoadGuidesTimer(false, true, false, 0, 1);
+    EXPECT_FALSE(list.isLoadGuidesTimerActive()) << "dragging";
+    list.startLoadGuidesTimer(false, false, false, 0, 1);
+    EXPECT_TRUE(list.isLoadGuidesTimerActive());
+    list.loadGuidesForCurrentView(5, 9);  // past the end: nothing to load, no crash
+}
+
+TEST(WebEnginePageView, ScriptsAreAnsweredOnceWithOrWithoutAHost)
+{
+    WebEnginePageView view;
+    int answers = 0;
+    view.evaluateJavaScript("1+1", [&](const QVariant& v, const QString&) { answers += v.isNull() ? 1 : 100; });
+    EXPECT_EQ(answers, 1) << "no host: answered empty at once";
+
+    QObject host;
+    view.attachHost(&host);
+    QSignalSpy requested(&view, &WebEnginePageView::scriptRequested);
+    QVariant result;
+    view.evaluateJavaScript("1+1", [&](const QVariant& v, const QString&) { result = v; ++answers; });
+    ASSERT_EQ(requested.count(), 1);
+    view.scriptFinished(requested.at(0).at(0).toInt(), 2);
+    view.scriptFinished(requested.at(0).at(0).toInt(), 3);
+    EXPECT_EQ(result.toInt(), 2);
+    EXPECT_EQ(answers, 2) << "a late duplicate answer is ignored";
+
+    view.evaluateJavaScript("x", [&](const QVariant&, const QString&) { ++answers; });
+    view.detachHost(&host);
+    EXPECT_EQ(answers, 3) << "leaving the screen answers what was pending";
+
+    view.loadData("<p>é</p>", "text/html", "UTF8", QUrl("file:///pack/"));
+    EXPECT_EQ(view.html(), "<p>é</p>");
+    EXPECT_TRUE(view.hasContent());
+}

@@ -1,0 +1,131 @@
+// The isolation distance tables: sections, container table, units and headers.
+#include "FixturePack.h"
+
+#include "AppLinks.h"
+#include "IsolationTableDelegate.h"
+#include "model/QORModel.h"
+
+#include <QSettings>
+#include <gtest/gtest.h>
+
+using namespace qor;
+using qor::test::FixturePack;
+using qor::test::ModelFixture;
+
+namespace {
+
+struct IsolationTest : ::testing::Test {
+    FixturePack pack;
+    std::unique_ptr<ModelFixture> fixture;
+    QORModel* model = nullptr;
+    void SetUp() override
+    {
+        pack.setMaterials({ "AMMONIA, ANHYDROUS^2.2^125^1005^X^^", "CHLORINE^2.3^124^1017^X^^", "CHLORINE TRIFLUORIDE^2.3^124^1040^^^",
+                            "HYDROGEN CHLORIDE^2.3^125^1050^X^^", "HYDROGEN CHLORIDE, REFRIGERATED^2.3^125^2186^X^^",
+                            "HYDROGEN FLUORIDE^8^125^1052^X^^", "SULFUR DIOXIDE^2.3^125^1079^X^^",
+                            "SODIUM^4.3^138^1428^^W^", "CHLOROSILANES^4.3^139^2988^HCl, H2^W^", "ACETONE^3^127^1090^^^" });
+        QString sql;
+        for (const char* un : { "1005", "1017", "1040", "1050", "2186", "1052", "1079" })
+            sql += QStringLiteral("insert into iso_distances values ('%1',NULL,'100','300','0.5','0.3','2.0','1.3','','','','','','');").arg(un);
+        sql += "insert into iso_distances values ('2988','','30','100','0.1','0.1','0.2','0.1','100','300','0.5','0.3','1.1','0.7');"
+               "insert into iso_distances values ('2988','Spilled in Water','30','100','0.3','0.2','11+','7+','300','1000','2.9','1.8','9.3','5.8');";
+        pack.sql("npg.db", sql);
+        fixture = std::make_unique<ModelFixture>();
+        model = QORModel::sharedInstance();
+        QSettings().remove(IsolationTableDelegate::kSavedUnitsKey);
+    }
+    void TearDown() override { QSettings().remove(IsolationTableDelegate::kSavedUnitsKey); }
+
+    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials, unId.toInt())); }
+    QList<QVariantMap> sections(IsolationTableDelegate& d)
+    {
+        QList<QVariantMap> out;
+        for (const QVariant& v : d.sections())
+            out << v.toMap();
+        return out;
+    }
+};
+
+} // namespace
+
+TEST_F(IsolationTest, ContainerSectionsFollowTheSmallSpillHalf)
+{
+    IsolationTableDelegate d;
+    for (const char* un : { "1005", "1017", "1050", "2186", "1079" }) {
+        d.setMaterial(material(un));
+        EXPECT_EQ(d.sections().size(), 1 + 4) << un;
+    }
+    for (const char* un : { "1040", "1052" }) {
+        d.setMaterial(material(un));
+        EXPECT_EQ(d.sections().size(), 1 + 3) << un;
+    }
+
+    d.setMaterial(material("2186"));
+    const QList<QVariantMap> s2186 = sections(d);
+    d.setMaterial(material("1050"));
+    EXPECT_EQ(sections(d), s2186) << "2186 shares 1050's block";
+    EXPECT_EQ(d.headerLabel(), "Hydrogen Chloride");
+
+    const QList<QVariantMap> s = sections(d);
+    EXPECT_EQ(s.at(0).value("kind"), "condition");
+    EXPECT_TRUE(s.at(0).value("hideLargeSpill").toBool());
+    EXPECT_EQ(s.at(0).value("height"), IsolationTableDelegate::kShortRowHeight);
+    EXPECT_EQ(s.at(0).value("title"), "Default");
+    EXPECT_EQ(s.at(1).value("title"), "Rail Tank Car");
+    EXPECT_EQ(s.at(1).value("height"), IsolationTableDelegate::kRowHeight);
+    EXPECT_EQ(s.at(4).value("title"), "Multiple Small Cylinders or single ton cylinder");
+
+    d.setMaterial(material("1090"));
+    EXPECT_TRUE(d.empty()) << "no rows and no container block";
+}
+
+TEST_F(IsolationTest, FiguresShowInTheChosenUnitsAsStored)
+{
+    IsolationTableDelegate d;
+    EXPECT_EQ(d.units(), IsolationTableDelegate::Imperial) << "imperial when nothing is stored";
+    d.setMaterial(material("1079"));
+    QVariantMap rail = sections(d).at(1);
+    EXPECT_EQ(rail.value("title"), "Rail Tank Car");
+    EXPECT_EQ(rail.value("isolate"), "3000 ft");
+    EXPECT_EQ(rail.value("day").toStringList().at(0), "7+ mi");
+    EXPECT_EQ(rail.value("night").toStringList().at(2), "6.0 mi");
+    EXPECT_EQ(rail.value("windCaptions").toStringList().at(0), "Low wind (< 6 mph):");
+
+    d.segmentAction(IsolationTableDelegate::Metric);
+    EXPECT_EQ(QSettings().value("savedUnits").toInt(), 1);
+    rail = sections(d).at(1);
+    EXPECT_EQ(rail.value("isolate"), "1000 m");
+    EXPECT_EQ(rail.value("day").toStringList().at(0), "11+ km");
+    EXPECT_EQ(rail.value("night").toStringList().at(2), "9.6 km");
+    EXPECT_EQ(rail.value("windCaptions").toStringList().at(2), "High wind (> 20 km/h):");
+
+    d.setMaterial(material("2988"));
+    const QVariantMap water = sections(d).at(1);
+    EXPECT_EQ(water.value("smallNight"), "11+ km");
+    EXPECT_EQ(water.value("largeIsolate"), "300 m");
+    EXPECT_FALSE(water.value("hideLargeSpill").toBool());
+    d.segmentAction(IsolationTableDelegate::Imperial);
+    EXPECT_EQ(sections(d).at(1).value("largeIsolate"), "1000 ft");
+    EXPECT_EQ(sections(d).at(1).value("smallDay"), "0.2 mi");
+
+    EXPECT_TRUE(IsolationTableDelegate::largeSpillCell("1,2,3", 0).isEmpty()) << "a short row shows nothing rather than crash";
+}
+
+TEST_F(IsolationTest, WaterHeadersNameTheGasesProduced)
+{
+    IsolationTableDelegate d;
+    d.setMaterial(material("2988"));
+    EXPECT_EQ(d.titleForSection(0), "Default");
+    EXPECT_EQ(d.titleForSection(1), "Spilled In Water (TIH Gases Produced: HCl, H2)");
+
+    MaterialPtr single = material("2988").ptr;
+    single->toxicInhalationHazard = QStringLiteral("HCl");
+    d.setMaterial(MaterialRef(single));
+    EXPECT_EQ(d.titleForSection(1), "Spilled In Water (TIH Gas Produced: HCl)");
+    single->toxicInhalationHazard = QStringLiteral("X");
+    d.setMaterial(MaterialRef(single));
+    EXPECT_EQ(d.titleForSection(1), "Spilled In Water");
+    single->toxicInhalationHazard.reset();
+    d.setMaterial(MaterialRef(single));
+    EXPECT_EQ(d.titleForSection(1), "Spilled In Water");
+}
