@@ -5,6 +5,10 @@ import QOR
 // Every response guide, by number; the visible pages are loaded ahead.
 Page {
     id: page
+    // Rows are made once the tab has been on screen: a hidden tab would
+    // otherwise build its first screenful (and render its artwork) at launch.
+    property bool shown: false
+    onVisibleChanged: if (visible) shown = true
     objectName: "GuideListPage"
     property alias controller: controller
     property alias listView: list
@@ -36,7 +40,7 @@ Page {
         id: list
         anchors.fill: parent
         clip: true
-        model: controller
+        model: page.visible || shown ? controller : null
         ScrollBar.vertical: ScrollBar {}
         onMovementStarted: page.startLoadGuidesTimer()
         onMovementEnded: page.startLoadGuidesTimer()

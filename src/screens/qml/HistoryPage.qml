@@ -6,6 +6,9 @@ import QOR
 // Viewed materials: All, Recent or Most Viewed, with a Clear History button.
 Page {
     id: page
+    // Rows are made once the tab has been on screen: a hidden tab would
+    // otherwise build its first screenful (and render its artwork) at launch.
+    property bool shown: false
     objectName: "HistoryPage"
     property alias controller: history
     property alias listView: listView
@@ -21,7 +24,7 @@ Page {
     }
 
     // Every appearance shows current counts and orders.
-    onVisibleChanged: if (visible) history.reload()
+    onVisibleChanged: if (visible) { shown = true; history.reload() }
     StackView.onActivating: history.reload()
 
     header: ToolBar {
@@ -68,7 +71,7 @@ Page {
             Layout.fillWidth: true
             Layout.fillHeight: true
             clip: true
-            model: history
+            model: page.visible || shown ? history : null
             keyNavigationEnabled: true
             delegate: MaterialRow {
                 id: row

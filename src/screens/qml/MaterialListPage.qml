@@ -6,6 +6,10 @@ import QOR
 // The materials of the current category by section, with search as you type.
 Page {
     id: page
+    // Rows are made once the tab has been on screen: a hidden tab would
+    // otherwise build its first screenful (and render its artwork) at launch.
+    property bool shown: false
+    onVisibleChanged: if (visible) shown = true
     objectName: "materialList"
     property alias controller: list
     property alias searchField: searchField
@@ -158,7 +162,7 @@ Page {
                 anchors.fill: parent
                 anchors.rightMargin: sideIndex.visible ? sideIndex.width : 0
                 clip: true
-                model: list
+                model: page.visible || shown ? list : null
                 keyNavigationEnabled: true
                 highlightMoveDuration: 0
                 section.property: "sectionKey"
