@@ -73,11 +73,11 @@ run_fuzzers() {
     mkdir -p "$corpus" "$out/artifacts"
     if "$fuzzer" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
         -artifact_prefix="$out/artifacts/$name-" "$corpus" "$seeds" >"$out/$name.log" 2>&1; then
-      local runs execs
+      local runs execs corp
       runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$out/$name.log")
       execs=$(sed -n 's/^stat::average_exec_per_sec: *//p' "$out/$name.log")
-      printf 'fuzz %-14s ok: %s runs, %s exec/s, corpus %s files\n' "$name" "$runs" "$execs" \
-        "$(find "$corpus" -type f | wc -l)"
+      corp=$(sed -n 's/.*DONE .*corp: \([0-9]*\/[0-9a-zA-Z]*\).*/\1/p' "$out/$name.log" | tail -n 1)
+      printf 'fuzz %-14s ok: %s runs, %s exec/s, corpus %s (inputs/bytes)\n' "$name" "$runs" "$execs" "$corp"
     else
       echo "fuzz $name FAILED; log: $out/$name.log"
       tail -n 40 "$out/$name.log"
