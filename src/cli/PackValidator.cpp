@@ -308,7 +308,7 @@ private:
             for (qsizetype c = 0; c < columns.size(); ++c)
                 if (r.at(c + 1).isNull())
                     nulls << columns.at(c);
-            report.add(r.at(0).toInt(), QStringLiteral("%1 row: %2 NULL, which the lookup does not survive").arg(table, nulls.join(QStringLiteral(", "))));
+            report.add(r.at(0).toInt(), QStringLiteral("%1 row: %2 NULL, which the app shows as empty").arg(table, nulls.join(QStringLiteral(", "))));
         }
     }
 

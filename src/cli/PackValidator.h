@@ -1,7 +1,7 @@
 #pragma once
 // Checks a data pack against the invariants the app relies on without
-// guarding them at run time (a line with 6 fields aborts, a NULL distance is
-// not survived, a missing anchor opens the wrong place, ...). Never opens the
+// guarding them at run time (a line with 6 fields aborts, a NULL distance
+// shows as a blank, a missing anchor opens the wrong place, ...). Never opens the
 // pack through the model, so a broken pack cannot take the checker down.
 #include <QList>
 #include <QString>

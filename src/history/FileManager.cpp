@@ -119,7 +119,9 @@ bool writeFileAtomically(const QString& path, const QByteArray& data, FileError*
         return fail(EISDIR);
     QSaveFile file(path);
     errno = 0;
-    if (!file.open(QIODevice::WriteOnly))
+    // Unbuffered: a buffered write that fails only when flushed at commit is
+    // not noticed by QSaveFile, which then puts the short file in place.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return fail(errno);
     file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     errno = 0;

@@ -183,7 +183,9 @@ void HistoryManager::addToHistory(const MaterialPtr& material, const QDateTime& 
     const QString key = material->unId.isNull() ? QString(QLatin1String("")) : material->unId;
     if (const HistoryObjectPtr existing = m_viewedHistory.objects.value(key)) {
         // Name and other fields stay as first recorded.
-        existing->properties.insert(kViewCount, existing->viewCount() + 1);
+        // A hand-edited count at the top of the range stays there.
+        const int count = existing->viewCount();
+        existing->properties.insert(kViewCount, count < std::numeric_limits<int>::max() ? count + 1 : count);
         existing->properties.insert(kLastViewDate, lastViewDate.toUTC());
         return;
     }

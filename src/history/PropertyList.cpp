@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <QHash>
+#include <QRegularExpression>
 #include <cstring>
 #include <vector>
 #include <QTimeZone>
@@ -331,12 +332,68 @@ private:
     }
 };
 
+// libplist asserts (ending the process) when asked for a key whose text holds
+// a NUL, so such lists are refused before libplist sees them. Binary lists:
+// every string object is checked; XML lists: raw NULs and &#0; references.
+bool holdsNulInText(const QByteArray& bytes)
+{
+    if (!bytes.startsWith("bplist")) {
+        static const QRegularExpression nulReference(QStringLiteral("&#(0+|[xX]0+);"));
+        return bytes.contains('\0') || nulReference.match(QString::fromLatin1(bytes)).hasMatch();
+    }
+    const qsizetype size = bytes.size();
+    if (size < 8 + 32)
+        return false;  // libplist refuses it
+    const auto* b = reinterpret_cast<const uchar*>(bytes.constData());
+    const auto readInt = [&](qsizetype at, int width) {
+        quint64 v = 0;
+        for (int i = 0; i < width; ++i)
+            v = v << 8 | b[at + i];
+        return v;
+    };
+    const uchar* trailer = b + size - 32;
+    const int offsetSize = trailer[6];
+    const quint64 objects = readInt(size - 24, 8);
+    const quint64 table = readInt(size - 8, 8);
+    if (offsetSize < 1 || offsetSize > 8 || table >= quint64(size) || objects > quint64(size))
+        return false;
+    for (quint64 i = 0; i < objects; ++i) {
+        const quint64 entry = table + i * offsetSize;
+        if (entry + offsetSize > quint64(size) - 32)
+            break;
+        const quint64 at = readInt(qsizetype(entry), offsetSize);
+        if (at >= quint64(size))
+            continue;
+        const uchar marker = b[at];
+        if ((marker & 0xF0) != 0x50 && (marker & 0xF0) != 0x60)
+            continue;
+        quint64 length = marker & 0x0F;
+        quint64 start = at + 1;
+        if (length == 0x0F) {
+            if (start >= quint64(size) || (b[start] & 0xF0) != 0x10)
+                continue;
+            const int width = 1 << (b[start] & 0x0F);
+            if (width > 8 || start + 1 + width > quint64(size))
+                continue;
+            length = readInt(qsizetype(start + 1), width);
+            start += 1 + width;
+        }
+        const int unit = (marker & 0xF0) == 0x60 ? 2 : 1;
+        const quint64 end = std::min<quint64>(quint64(size), start + std::min<quint64>(length, quint64(size)) * unit);
+        for (quint64 p = start; p + unit <= end; p += unit)
+            if (b[p] == 0 && (unit == 1 || b[p + 1] == 0))
+                return true;
+    }
+    return false;
+}
+
 // Converts a parsed tree to Qt values. Nesting deeper than any real file
 // fails the whole parse rather than the stack.
 class Reader {
 public:
     static constexpr int kMaxDepth = 512;
-    bool tooDeep = false;
+    // Nested too deep, or a tree libplist cannot be asked about safely.
+    bool unusable = false;
 
     QVariant fromNode(plist_t node)
     {
@@ -344,7 +401,7 @@ public:
         if (type != PLIST_ARRAY && type != PLIST_DICT)
             return scalar(node, type);
         if (m_depth >= kMaxDepth) {
-            tooDeep = true;
+            unusable = true;
             return {};
         }
         ++m_depth;
@@ -379,7 +436,7 @@ private:
         plist_array_new_iter(node, &it);
         for (plist_t child = nullptr;;) {
             plist_array_next_item(node, it, &child);
-            if (!child || tooDeep)
+            if (!child || unusable)
                 break;
             list.append(fromNode(child));
         }
@@ -393,14 +450,21 @@ private:
         plist_dict_iter it = nullptr;
         plist_dict_new_iter(node, &it);
         for (;;) {
-            char* k = nullptr;
             plist_t child = nullptr;
-            plist_dict_next_item(node, it, &k, &child);
-            if (child && !tooDeep)
-                map.insert(key(k), fromNode(child));
-            free(k);
-            if (!child || tooDeep)
+            plist_dict_next_item(node, it, nullptr, &child);
+            if (!child || unusable)
                 break;
+            // A damaged binary list can put another kind of node where a key
+            // belongs, and libplist asserts when asked for its text.
+            const plist_t keyNode = plist_dict_item_get_key(child);
+            if (!keyNode || plist_get_node_type(keyNode) != PLIST_KEY) {
+                unusable = true;
+                break;
+            }
+            char* k = nullptr;
+            plist_get_key_val(keyNode, &k);
+            map.insert(key(k ? k : ""), fromNode(child));
+            free(k);
         }
         free(it);
         return map;
@@ -486,6 +550,8 @@ std::optional<QVariant> parse(const QByteArray& bytes)
 {
     if (bytes.isEmpty() || bytes.size() > qsizetype(std::numeric_limits<uint32_t>::max()))
         return std::nullopt;
+    if (holdsNulInText(bytes))
+        return std::nullopt;
     plist_t root = nullptr;
     plist_from_memory(bytes.constData(), uint32_t(bytes.size()), &root);
     if (!root)
@@ -493,7 +559,7 @@ std::optional<QVariant> parse(const QByteArray& bytes)
     Node holder(root);
     Reader reader;
     QVariant value = reader.fromNode(root);
-    if (reader.tooDeep)
+    if (reader.unusable)
         return std::nullopt;
     return value;
 }

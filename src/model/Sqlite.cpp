@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 #include <QDebug>
+#include <QFile>
 #include <QFileInfo>
 #include <QUrl>
 #include <cstdlib>
@@ -32,12 +33,44 @@ Database& Database::operator=(Database&& other) noexcept
     return *this;
 }
 
+namespace {
+// SQLite takes an empty file for an empty database and a cut-off one for
+// whole until a lookup reaches the missing pages; both are broken packs.
+QString truncation(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QString();  // SQLite gives the reason
+    const qint64 size = file.size();
+    if (size == 0)
+        return QStringLiteral("empty file");
+    const QByteArray header = file.read(100);
+    if (header.size() < 100 || !header.startsWith(QByteArrayLiteral("SQLite format 3\0")))
+        return QString();  // not a database at all; SQLite says so
+    const auto byte = [&](int i) { return quint32(quint8(header.at(i))); };
+    const quint32 pageSize = byte(16) << 8 | byte(17);
+    const quint32 pages = byte(28) << 24 | byte(29) << 16 | byte(30) << 8 | byte(31);
+    const qint64 expected = qint64(pageSize == 1 ? 65536 : pageSize) * pages;
+    // The page count in the header is only kept by writers since 3.7.0; it
+    // is trusted only when it agrees with the change counter, as SQLite does.
+    const bool countValid = pages > 0 && header.mid(24, 4) == header.mid(92, 4);
+    if (countValid && size < expected)
+        return QStringLiteral("truncated: %1 of %2 bytes").arg(size).arg(expected);
+    return QString();
+}
+} // namespace
+
 Database Database::openReadOnly(const QString& path, QString* why)
 {
     Database result;
     if (!QFileInfo(path).isFile()) {
         if (why)
             *why = QStringLiteral("no such file");
+        return result;
+    }
+    if (const QString damage = truncation(path); !damage.isEmpty()) {
+        if (why)
+            *why = damage;
         return result;
     }
     // immutable=1: the pack is never written, so SQLite may skip locking and

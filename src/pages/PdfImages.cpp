@@ -2,10 +2,12 @@
 
 #include "PdfViews.h"
 
+#include "history/FileManager.h"
 #include "history/UserPaths.h"
 #include "model/Filter.h"
 #include "model/Resources.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -51,9 +53,14 @@ QImage renderCached(const QUrl& url, const QSizeF& size, qreal scale, int page)
         qWarning("Cannot draw page %d of %s", page, qPrintable(url.toString()));
         return image;
     }
-    // A failed write only costs a render next time.
-    if (!cachePath.isEmpty())
-        image.save(cachePath, "PNG");
+    // A failed write only costs a render next time. Written whole or not at
+    // all, owner-only like every other user file.
+    if (!cachePath.isEmpty()) {
+        QByteArray png;
+        QBuffer buffer(&png);
+        if (buffer.open(QIODevice::WriteOnly) && image.save(&buffer, "PNG"))
+            writeFileAtomically(cachePath, png);
+    }
     return image;
 }
 
@@ -138,7 +145,7 @@ QString ImageCreations::cacheFilenameForURL(const QUrl& url, const QSizeF& size,
                         + sizeText(size.width() * scaleFactor, size.height() * scaleFactor) + QStringLiteral(" - ")
                         + QString::number(page);
     const QString dir = UserPaths::cachesDir() + QStringLiteral("/__PDF_CACHE__");
-    QDir().mkpath(dir);
+    UserPaths::ensureDir(dir);
     return dir + QLatin1Char('/') + MD5(key) + QStringLiteral(".png");
 }
 
