@@ -1,6 +1,7 @@
 #include "BenchSupport.h"
 
 #include "model/PackSchema.h"
+#include "model/QORModel.h"
 #include "model/Resources.h"
 
 #include <QFile>
@@ -92,6 +93,17 @@ void writeScalePack(const QString& dir, int materials, int incidents)
     exec(inc, QStringLiteral("commit"));
     sqlite3_close(inc);
     sqlite3_close(openNew(dir + QStringLiteral("/cfr49.db"), QStringLiteral("cfr49.db")));
+}
+
+MaterialPtr loadModelAndFind(const QString& unId)
+{
+    delete QORModel::sharedInstance(false);
+    auto* model = new QORModel();
+    model->loadData();
+    for (const auto& m : std::as_const(model->materials))
+        if (m->unId == unId)
+            return m;
+    return nullptr;
 }
 
 ScalePack::ScalePack(int materials, int incidents)

@@ -4,12 +4,18 @@
 #include <QString>
 #include <QTemporaryDir>
 
+#include "model/Material.h"
+
 namespace qor::bench {
 
 // Writes a pack of `materials` materials (real-looking names and UN numbers,
 // every category represented) and `incidents` incident rows into dir, with
 // isolation rows for the toxic-inhalation materials.
 void writeScalePack(const QString& dir, int materials = 4000, int incidents = 40000);
+
+// Replaces the shared model with a freshly loaded one over the active pack
+// and returns its first material with that UN id (null when there is none).
+MaterialPtr loadModelAndFind(const QString& unId);
 
 // A scale pack in a temporary folder, made active for the resource lookup.
 class ScalePack {

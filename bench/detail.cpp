@@ -14,13 +14,8 @@ namespace {
 
 void runCold(benchmark::State& state, const QString& unId)
 {
-    delete QORModel::sharedInstance(false);
-    auto* model = new QORModel();
-    model->loadData();
-    MaterialPtr pristine;
-    for (const auto& m : std::as_const(model->materials))
-        if (m->unId == unId && !pristine)
-            pristine = m;
+    const MaterialPtr pristine = bench::loadModelAndFind(unId);
+    QORModel* model = QORModel::sharedInstance();
     if (!pristine) {
         state.SkipWithError("material not in the pack");
         delete model;
