@@ -15,7 +15,8 @@ PACKAGES=(cmake g++ ninja-build pkg-config libsqlite3-dev libplist-dev
   qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
   qml6-module-qtquick-window qml6-module-qtqml-workerscript qml6-module-qtquick-templates
   qml6-module-qtwebengine qml6-module-qtquick-dialogs qml6-module-qttest
-  libgtest-dev libbenchmark-dev xvfb xauth clang libclang-rt-14-dev)
+  libgtest-dev libbenchmark-dev xvfb xauth clang libclang-rt-14-dev
+  libpoppler-cpp-dev libarchive-dev libxml2-dev poppler-utils ccache)
 
 install_missing() {
   local missing=()
@@ -31,8 +32,11 @@ install_missing() {
 }
 
 BUILD_DIR=${QOR_BUILD_DIR:-build}
+# ccache keeps rebuilds of unchanged sources cheap across build folders.
+LAUNCHER=()
+command -v ccache >/dev/null && LAUNCHER=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DCMAKE_C_COMPILER_LAUNCHER=ccache)
 build() {
-  cmake -S . -B "$BUILD_DIR" -G Ninja -DCMAKE_BUILD_TYPE=${QOR_BUILD_TYPE:-RelWithDebInfo} "$@"
+  cmake -S . -B "$BUILD_DIR" -G Ninja -DCMAKE_BUILD_TYPE=${QOR_BUILD_TYPE:-RelWithDebInfo} "${LAUNCHER[@]}" "$@"
   cmake --build "$BUILD_DIR" -j"$(nproc)"
 }
 
@@ -40,7 +44,7 @@ build() {
 # fuzzer coverage), no benchmarks, lightly optimised to keep the build short.
 SAN_DIR=${QOR_SANITIZE_BUILD_DIR:-build-asan}
 build_sanitized() {
-  CC=clang CXX=clang++ cmake -S . -B "$SAN_DIR" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+  CC=clang CXX=clang++ cmake -S . -B "$SAN_DIR" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "${LAUNCHER[@]}" \
     -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O1 -gline-tables-only" -DCMAKE_C_FLAGS_RELWITHDEBINFO="-O1 -gline-tables-only" \
     -DQOR_FUZZ=ON -DQOR_BUILD_BENCH=OFF
   cmake --build "$SAN_DIR" -j"$(nproc)"

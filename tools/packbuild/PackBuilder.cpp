@@ -121,7 +121,9 @@ bool PackBuilder::copyPlainFiles()
         files << QDir(m_source).relativeFilePath(it.next());
     files.sort();
     for (const QString& rel : std::as_const(files)) {
-        if (rel.startsWith(QLatin1String("src/")) || rel == QLatin1String("README.md"))
+        // official/ holds the documents the importers read, not pack files.
+        if (rel.startsWith(QLatin1String("src/")) || rel.startsWith(QLatin1String("official/"))
+            || rel == QLatin1String("README.md"))
             continue;
         QDir().mkpath(QFileInfo(out(rel)).path());
         if (!QFile::copy(src(rel), out(rel)))
