@@ -78,7 +78,7 @@ std::vector<PdfWord> PdfText::words(int page) const
         return out;
     for (const poppler::text_box& box : p->text_list()) {
         const poppler::rectf r = box.bbox();
-        out.push_back({ fromUstring(box.text()), QRectF(r.x(), r.y(), r.width(), r.height()), box.has_space_after() });
+        out.push_back({ fromUstring(box.text()), QRectF(r.x(), r.y(), r.width(), r.height()), box.has_space_after(), box.rotation() });
     }
     return out;
 }

@@ -18,6 +18,9 @@ struct PdfWord {
     QString text;
     QRectF box;          // in points, origin top left of the page as displayed
     bool spaceAfter = false;
+    // Quarter turns of the text: 0 upright, 1 reading downwards, 2 upside
+    // down, 3 reading upwards (tables set sideways on the page).
+    int rotation = 0;
 };
 
 class PdfText {
