@@ -49,6 +49,13 @@ QJsonObject materialJson(QORModel& model, Material& m)
         isoJson.insert(key, stringMapJson(iso.value(key)));
     o.insert(QStringLiteral("isolationDistances"), isoJson);
     o.insert(QStringLiteral("isolationConditions"), QJsonArray::fromStringList(iso.keys()));
+    // Large spills by container, as "name" and the fourteen figures, in table order.
+    QJsonArray containers;
+    const OrderedMap<QString> large = model.largeSpillIsoDistancesForMaterial(m);
+    for (const QString& name : large.keys())
+        containers.append(QJsonObject{ { QStringLiteral("container"), name },
+                                       { QStringLiteral("figures"), QJsonArray::fromStringList(large.value(name).split(QLatin1Char(','))) } });
+    o.insert(QStringLiteral("largeSpillContainers"), containers);
 
     // Chemistry in the order attributeForKey walks it: GHS keys on the CAS
     // number that CAMEO and then NPG leave on the material.

@@ -47,6 +47,17 @@ void printMaterialText(QTextStream& out, const QJsonObject& o)
                 << r.value(p + QStringLiteral("Protect distance Night Imp")).toString() << " mi\n";
         }
     }
+    for (const QJsonValue& c : o.value(QStringLiteral("largeSpillContainers")).toArray()) {
+        const QJsonArray f = c.toObject().value(QStringLiteral("figures")).toArray();
+        if (f.size() < 14)
+            continue;
+        auto pair = [&](int i, const char* metric, const char* imperial) {
+            return QStringLiteral("%1 %2 / %3 %4").arg(f.at(i).toString(), QLatin1String(metric), f.at(i + 1).toString(), QLatin1String(imperial));
+        };
+        out << "  Large spill, " << c.toObject().value(QStringLiteral("container")).toString() << ": isolate " << pair(0, "m", "ft")
+            << "; day low/moderate/high wind " << pair(2, "km", "mi") << ", " << pair(4, "km", "mi") << ", " << pair(6, "km", "mi")
+            << "; night " << pair(8, "km", "mi") << ", " << pair(10, "km", "mi") << ", " << pair(12, "km", "mi") << "\n";
+    }
     const QString summary = o.value(QStringLiteral("incidentsSummary")).toString();
     if (!summary.isEmpty())
         out << "  " << summary.trimmed() << "\n";

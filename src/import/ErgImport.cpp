@@ -763,7 +763,7 @@ QString isoDistancesSql(const ErgTables& tables)
     for (const ErgTable1Row& r : tables.table1) {
         const QStringList large = r.large ? r.large->values() : QStringList(6, QString());
         out += QStringLiteral("insert into iso_distances values (%1);\n")
-                   .arg(sqlValues(QStringList{ r.id, r.condition } + r.small.values() + large + QStringList{ r.name }));
+                   .arg(sqlValues(QStringList{ r.id, r.condition } + r.small.values() + large));
     }
     return out;
 }

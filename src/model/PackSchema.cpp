@@ -35,6 +35,12 @@ const std::vector<DatabaseSchema>& packDatabases()
                 { "un_id", "condition", "small_isolation_m", "small_isolation_ft", "small_day_km", "small_day_mi",
                   "small_night_km", "small_night_mi", "large_isolation_m", "large_isolation_ft", "large_day_km",
                   "large_day_mi", "large_night_km", "large_night_mi" } },
+              // Large spills by transport container for the six gases of the
+              // guidebook's Table 3, one row per UN number and container.
+              { QStringLiteral("large_spill_distances"),
+                { "un_id", "container", "isolation_m", "isolation_ft", "day_low_km", "day_low_mi", "day_moderate_km",
+                  "day_moderate_mi", "day_high_km", "day_high_mi", "night_low_km", "night_low_mi", "night_moderate_km",
+                  "night_moderate_mi", "night_high_km", "night_high_mi" } },
               { QStringLiteral("hmt"),
                 { "un_id", "name", "symbols", "class", "packing_group", "label_codes", "special_provisions",
                   "exceptions", "non_bulk", "bulk", "pass_air_rail", "cargo_air", "vessel_loc", "other", "future" } },

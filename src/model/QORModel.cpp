@@ -370,6 +370,97 @@ const IsolationDistances& QORModel::isolationDistancesForMaterial(Material& mate
     return map;
 }
 
+// ---------------------------------------------------------------- large spills by container
+
+namespace {
+
+struct ContainerRow {
+    const char* name;
+    const char* row;
+};
+
+// Built-in rows for packs without the table. They hold the guidebook's figures;
+// a test keeps them equal to the imported table.
+const ContainerRow k1005[] = {
+    { QT_TRANSLATE_NOOP("QOR", "Rail Tank Car"), "300,1000,1.6,1.0,1.2,0.8,1.0,0.6,4.1,2.6,2.1,1.3,1.3,0.8" },
+    { QT_TRANSLATE_NOOP("QOR", "Highway Tank Car or Trailer"), "150,500,0.8,0.5,0.5,0.3,0.4,0.3,1.8,1.1,0.7,0.4,0.6,0.4" },
+    { QT_TRANSLATE_NOOP("QOR", "Agricultural Nurse Tank"), "60,200,0.5,0.3,0.3,0.2,0.3,0.2,1.4,0.9,0.3,0.2,0.3,0.2" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders"), "30,100,0.3,0.2,0.2,0.1,0.1,0.1,0.7,0.5,0.3,0.2,0.2,0.1" },
+};
+const ContainerRow k1017[] = {
+    { QT_TRANSLATE_NOOP("QOR", "Rail Tank Car"), "1000,3000,9.6,6.0,6.3,3.9,5.1,3.2,11+,7+,8.9,5.6,6.5,4.1" },
+    { QT_TRANSLATE_NOOP("QOR", "Highway Tank Car or Trailer"), "600,2000,5.6,3.5,3.3,2.1,2.5,1.6,6.4,4.0,4.7,2.9,3.8,2.4" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple ton cylinders"), "300,1000,1.9,1.2,1.3,0.8,1.0,0.6,3.5,2.2,2.3,1.4,1.3,0.8" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders or single ton cylinder"), "150,500,1.3,0.9,0.7,0.5,0.5,0.3,2.4,1.5,1.2,0.8,0.6,0.4" },
+};
+const ContainerRow k1040[] = {
+    { QT_TRANSLATE_NOOP("QOR", "Rail Tank Car"), "200,600,1.5,1.0,0.8,0.5,0.7,0.4,3.0,1.8,1.4,0.9,0.8,0.5" },
+    { QT_TRANSLATE_NOOP("QOR", "Highway Tank Car or Trailer"), "100,300,0.9,0.6,0.5,0.3,0.4,0.3,2.0,1.3,0.7,0.4,0.4,0.3" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders or single ton cylinder"), "30,100,0.4,0.3,0.2,0.1,0.1,0.1,0.8,0.5,0.3,0.2,0.2,0.1" },
+};
+// Shared by 1050 and 2186.
+const ContainerRow k1050[] = {
+    { QT_TRANSLATE_NOOP("QOR", "Rail Tank Car"), "500,1500,3.7,2.3,2.0,1.3,1.7,1.1,9.7,6.1,3.3,2.1,2.2,1.4" },
+    { QT_TRANSLATE_NOOP("QOR", "Highway Tank Car or Trailer"), "200,600,1.5,0.9,0.8,0.5,0.6,0.4,3.7,2.3,1.5,0.9,0.8,0.5" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple ton cylinders"), "30,100,0.4,0.3,0.2,0.1,0.1,0.1,1.0,0.6,0.3,0.2,0.1,0.1" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders or single ton cylinder"), "30,100,0.3,0.2,0.2,0.1,0.1,0.1,0.9,0.6,0.3,0.2,0.2,0.1" },
+};
+const ContainerRow k1052[] = {
+    { QT_TRANSLATE_NOOP("QOR", "Rail Tank Car"), "500,1500,3.4,2.1,2.1,1.3,1.8,1.1,6.4,4.0,3.0,1.9,1.9,1.2" },
+    { QT_TRANSLATE_NOOP("QOR", "Highway Tank Car or Trailer"), "200,700,2.0,1.2,1.0,0.7,0.9,0.6,3.6,2.3,1.5,1.0,0.9,0.6" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders or single ton cylinder"), "100,300,0.8,0.5,0.4,0.2,0.3,0.2,1.7,1.1,0.5,0.3,0.3,0.2" },
+};
+const ContainerRow k1079[] = {
+    { QT_TRANSLATE_NOOP("QOR", "Rail Tank Car"), "1000,3000,11+,7+,11+,7+,6.9,4.3,11+,7+,11+,7+,9.6,6.0" },
+    { QT_TRANSLATE_NOOP("QOR", "Highway Tank Car or Trailer"), "1000,3000,11+,7+,6.0,3.8,5.0,3.3,11+,7+,7.9,5.1,6.0,3.9" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple ton cylinders"), "500,1500,5.2,3.3,2.2,1.4,1.7,1.1,7.4,4.3,4.0,2.5,2.7,1.7" },
+    { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders or single ton cylinder"), "200,600,3.1,1.9,1.5,0.9,1.1,0.7,5.6,3.5,2.4,1.5,1.5,0.9" },
+};
+
+template <size_t N>
+OrderedMap<QString> containerMap(const ContainerRow (&rows)[N])
+{
+    OrderedMap<QString> map;
+    for (const ContainerRow& r : rows)
+        map.insert(L::tr(r.name), QString::fromLatin1(r.row));
+    return map;
+}
+
+} // namespace
+
+OrderedMap<QString> QORModel::builtInLargeSpillIsoDistances(const QString& unId)
+{
+    switch (leadingInt(unId)) {
+    case 1005: return containerMap(k1005);
+    case 1017: return containerMap(k1017);
+    case 1040: return containerMap(k1040);
+    case 1050:
+    case 2186: return containerMap(k1050);
+    case 1052: return containerMap(k1052);
+    case 1079: return containerMap(k1079);
+    default: return {};
+    }
+}
+
+OrderedMap<QString> QORModel::largeSpillIsoDistancesForMaterial(const Material& material)
+{
+    if (!m_packHasLargeSpillRows) {
+        Statement probe(m_npgDb, QStringLiteral("select 1 from large_spill_distances limit 1"));
+        m_packHasLargeSpillRows = probe.step();
+    }
+    if (!*m_packHasLargeSpillRows)
+        return builtInLargeSpillIsoDistances(material.unId);
+    OrderedMap<QString> map;
+    Statement st(m_npgDb, QStringLiteral("select * from large_spill_distances where un_id = %1 order by rowid").arg(sqlQuoted(material.unId)));
+    while (st.step()) {
+        QStringList figures;
+        for (int i = 2; i < 16; ++i)
+            figures << st.text(i);
+        map.insert(QCoreApplication::translate("QOR", st.text(1).toUtf8().constData()), figures.join(QLatin1Char(',')));
+    }
+    return map;
+}
+
 // ---------------------------------------------------------------- filters
 
 void QORModel::changeFilter(const QString& abbrev)

@@ -73,6 +73,13 @@ public:
 
     // --- isolation distances ---
     const IsolationDistances& isolationDistancesForMaterial(Material& material);
+    // Large spills by transport container for the six gases of the
+    // guidebook's Table 3: container name -> fourteen comma-separated figures
+    // (isolate m, ft; day low, moderate, high wind and night low, moderate,
+    // high wind, each km then mi). From the pack's large_spill_distances
+    // table; a pack without its rows gets the built-in ones. A new map per call.
+    OrderedMap<QString> largeSpillIsoDistancesForMaterial(const Material& material);
+    static OrderedMap<QString> builtInLargeSpillIsoDistances(const QString& unId);
 
     // --- filters, sections, sort orders ---
     void changeFilter(const QString& abbrev);
@@ -131,6 +138,7 @@ private:
     Database m_npgDb;
     std::optional<QHash<QString, int>> m_materialsWithIncidents;
     std::optional<MaterialList> m_loadingMaterials;
+    std::optional<bool> m_packHasLargeSpillRows;
     QRecursiveMutex m_lock;
     QTimer m_loadTimer;
 };

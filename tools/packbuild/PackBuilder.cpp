@@ -1,6 +1,7 @@
 #include "PackBuilder.h"
 
 #include "cli/IncidentImport.h"
+#include "import/ErgImport.h"
 #include "model/PackManifest.h"
 #include "model/PackSchema.h"
 
@@ -52,7 +53,7 @@ bool PackBuilder::run()
         return fail(m_output, QStringLiteral("cannot clear the output folder"));
     if (!QDir().mkpath(m_output))
         return fail(m_output, QStringLiteral("cannot create the output folder"));
-    return readPackInfo() && copyPlainFiles() && buildDatabases() && buildGuidePages() && buildInfoPages()
+    return readPackInfo() && copyPlainFiles() && importGuidebook() && buildDatabases() && buildGuidePages() && buildInfoPages()
         && buildProvisionPages() && buildArtwork() && writeManifest();
 }
 
@@ -132,6 +133,27 @@ bool PackBuilder::copyPlainFiles()
     return true;
 }
 
+bool PackBuilder::importGuidebook()
+{
+    // The guidebook's index and Tables 1 to 3 become the materials file and
+    // the distance tables. Files holding other sections (the guide pages)
+    // are read elsewhere.
+    const QString dir = src(QStringLiteral("official/erg2024"));
+    QStringList files;
+    for (const QString& name : filesIn(dir, QStringLiteral(".pdf")))
+        files << dir + QLatin1Char('/') + name;
+    QString why;
+    const auto tables = import::ErgImport::read(files, &why);
+    if (!tables)
+        return fail(dir, why);
+    const QStringList mismatches = import::ErgImport::highlightMismatches(*tables);
+    if (!mismatches.isEmpty())
+        return fail(dir, QStringLiteral("the index highlight and Table 1 disagree: %1").arg(mismatches.mid(0, 5).join(QStringLiteral("; "))));
+    m_isoDistancesSql = import::isoDistancesSql(*tables);
+    m_largeSpillSql = import::largeSpillSql(*tables);
+    return writeBytes(QStringLiteral("chemicals_2024.csv"), (import::materialsLines(*tables).join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8());
+}
+
 bool PackBuilder::runSqlFile(sqlite3* db, const QString& path)
 {
     QString text;
@@ -189,10 +211,12 @@ bool PackBuilder::buildDatabases()
             if (!ok)
                 fail(dir, why);
         }
-        // Table rows: src/<database file name>/*.sql, in name order.
+        // Table rows: the imported guidebook tables, then src/<database file name>/*.sql in name order.
         const QString sqlDir = src(QStringLiteral("src/") + schema.fileName);
         if (ok)
             ok = exec(QStringLiteral("begin"));
+        if (ok && schema.fileName == QLatin1String("npg.db"))
+            ok = exec(m_isoDistancesSql) && exec(m_largeSpillSql);
         for (const QString& name : filesIn(sqlDir, QStringLiteral(".sql")))
             ok = ok && runSqlFile(db, sqlDir + QLatin1Char('/') + name);
         ok = ok && exec(QStringLiteral("commit")) && exec(QStringLiteral("vacuum"));

@@ -19,6 +19,7 @@ public:
 
 private:
     bool readPackInfo();
+    bool importGuidebook();
     bool copyPlainFiles();
     bool buildDatabases();
     bool buildGuidePages();
@@ -48,6 +49,8 @@ private:
     QString m_buildDate;
     bool m_sample = true;
     QStringList m_sources;
+    QString m_isoDistancesSql;   // Table 1 rows for npg.db
+    QString m_largeSpillSql;     // Table 3 rows for npg.db
 };
 
 } // namespace qor::packbuild

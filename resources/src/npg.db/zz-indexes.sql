@@ -11,3 +11,4 @@ create index hmt_sections_section_id on hmt_sections (section_id);
 create index vessel_stowage_category on vessel_stowage (category);
 create index dot_placards_un_number on dot_placards (un_number);
 create index dot_classes_un_number on dot_classes (un_number);
+create index large_spill_distances_un_id on large_spill_distances (un_id);
