@@ -2,6 +2,7 @@
 
 #include "model/PackManifest.h"
 #include "model/PackSchema.h"
+#include "model/QORModel.h"
 
 #include <QDir>
 #include <QFile>
@@ -218,7 +219,8 @@ private:
                 report.add(line, QStringLiteral("\"%1\" starts with no letter and no letter-named material comes before it; "
                                                 "it would be in no alphabetical section").arg(name));
             static const QRegularExpression fourDigits(QStringLiteral("^\\d{4}$"));
-            if (!fourDigits.match(unId).hasMatch())
+            // The explosives rows of the guidebook's index carry no ID.
+            if (!unId.isEmpty() && !fourDigits.match(unId).hasMatch())
                 report.add(line, QStringLiteral("UN number \"%1\" is not four digits").arg(unId));
             if (!guides.contains(guide))
                 report.add(line, QStringLiteral("guide \"%1\" is not in guides.csv").arg(guide));
@@ -342,11 +344,104 @@ private:
                 checkNotNull(*npg, file, t.name, t.columns);
             }
         }
+        checkDistances(*npg);
         checkPlacardNames(*npg);
         checkPictograms(*npg);
         checkProvisionAnchors(*npg);
         if (cfr)
             checkSections(*npg, *cfr);
+    }
+
+    // A distance as printed: a number, optionally followed by "+".
+    static std::optional<double> distance(const QString& text)
+    {
+        static const QRegularExpression figure(QStringLiteral("^(\\d+(?:\\.\\d+)?)\\+?$"));
+        const auto m = figure.match(text);
+        return m.hasMatch() ? std::optional<double>(m.captured(1).toDouble()) : std::nullopt;
+    }
+
+    // The guidebook rounds metres to its steps (30, 60, 100, 150, ... m) and
+    // feet to theirs, kilometres and miles to a tenth, each from its own
+    // unrounded figure; its printed pairs differ by up to 7 %. A pair further
+    // apart than that holds a wrong figure.
+    static bool unitsAgree(double metric, double imperial, bool lengths)
+    {
+        if (lengths)
+            return std::abs(imperial * 0.3048 - metric) <= 0.12 * metric + 1;
+        return std::abs(imperial * 1.609344 - metric) <= 0.16 + 0.07 * metric;
+    }
+
+    // Metric and imperial figures side by side from `first`; `count` pairs.
+    void checkFigures(Capped& report, int row, const QString& what, const QStringList& r, int first, int count)
+    {
+        for (int p = 0; p < count; ++p) {
+            const QString metricText = r.at(first + 2 * p), imperialText = r.at(first + 2 * p + 1);
+            const auto metric = distance(metricText), imperial = distance(imperialText);
+            if (!metric || !imperial) {
+                report.add(row, QStringLiteral("%1: distance \"%2\" is not a number (optionally followed by \"+\")")
+                                    .arg(what, metric ? imperialText : metricText));
+                continue;
+            }
+            if (!unitsAgree(*metric, *imperial, p == 0))
+                report.add(row, QStringLiteral("%1: %2 %3 and %4 %5 disagree").arg(what, metricText, QLatin1String(p == 0 ? "m" : "km"), imperialText, QLatin1String(p == 0 ? "ft" : "mi")));
+        }
+    }
+
+    void checkDistances(const ReadOnlyDb& npg)
+    {
+        Capped report{ this, QStringLiteral("npg.db") };
+        QSet<QString> materials;
+        QFile file(m_dir.filePath(QStringLiteral("chemicals_2024.csv")));  // its absence is reported already
+        if (file.open(QIODevice::ReadOnly))
+            for (const QString& l : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n')))
+                materials.insert(l.section(QLatin1Char('^'), 3, 3));
+        const auto iso = npg.rows(QStringLiteral("select rowid, * from iso_distances order by rowid"));
+        for (const QStringList& r : iso.value_or(QList<QStringList>())) {
+            if (r.size() < 15)
+                break;
+            const int row = r.at(0).toInt();
+            const QString what = QStringLiteral("iso_distances row (UN %1)").arg(r.at(1));
+            if (!materials.contains(r.at(1)))
+                report.add(row, QStringLiteral("%1: no material with this UN number in chemicals_2024.csv").arg(what));
+            checkFigures(report, row, what, r, 3, 3);
+            if (!r.at(9).isEmpty())
+                checkFigures(report, row, what, r, 9, 3);
+        }
+        QHash<QString, QStringList> containers;
+        const auto large = npg.rows(QStringLiteral("select rowid, * from large_spill_distances order by rowid"));
+        for (const QStringList& r : large.value_or(QList<QStringList>())) {
+            if (r.size() < 17)
+                break;
+            const QString what = QStringLiteral("large_spill_distances row (UN %1, %2)").arg(r.at(1), r.at(2));
+            checkFigures(report, r.at(0).toInt(), what, r, 3, 7);
+            containers[r.at(1)] << r.mid(3, 14).join(QLatin1Char(','));
+        }
+        // The app's built-in container rows stand in for packs without the
+        // table; they must say what the guidebook says.
+        for (auto it = containers.cbegin(); it != containers.cend(); ++it) {
+            const OrderedMap<QString> builtIn = QORModel::builtInLargeSpillIsoDistances(it.key());
+            QStringList rows;
+            for (const QString& name : builtIn.keys())
+                rows << builtIn.value(name);
+            if (!sameFigures(rows, *it))
+                report.add(0, QStringLiteral("large_spill_distances (UN %1): the built-in container rows differ from the pack's").arg(it.key()));
+        }
+    }
+
+    // Rows of figures equal as numbers ("11+" and "11.0+" are the same).
+    static bool sameFigures(const QStringList& a, const QStringList& b)
+    {
+        if (a.size() != b.size())
+            return false;
+        for (qsizetype i = 0; i < a.size(); ++i) {
+            const QStringList x = a.at(i).split(QLatin1Char(',')), y = b.at(i).split(QLatin1Char(','));
+            if (x.size() != y.size())
+                return false;
+            for (qsizetype k = 0; k < x.size(); ++k)
+                if (distance(x.at(k)) != distance(y.at(k)) || x.at(k).endsWith(QLatin1Char('+')) != y.at(k).endsWith(QLatin1Char('+')))
+                    return false;
+        }
+        return true;
     }
 
     void checkPlacardNames(const ReadOnlyDb& npg)

@@ -48,6 +48,7 @@ struct ErgTable3Row {
     // Isolate m, ft; then day low, moderate, high wind and night low,
     // moderate, high wind, each km then mi: fourteen figures as printed.
     QStringList values;
+    bool operator==(const ErgTable3Row&) const = default;
 };
 
 struct ErgTables {

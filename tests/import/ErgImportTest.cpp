@@ -1,0 +1,290 @@
+// The guidebook importer on the official pages: whole-table facts, rows read
+// by value against the printed pages, and clear errors on bad input.
+#include "import/ErgImport.h"
+#include "model/QORModel.h"
+
+#include <QFile>
+#include <QSet>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace qor;
+using namespace qor::import;
+
+namespace {
+
+QString official(const char* name)
+{
+    return QStringLiteral(QOR_SOURCE_DIR "/resources/official/erg2024/") + QLatin1String(name);
+}
+
+class ErgImportTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        QString error;
+        auto read = ErgImport::read({ official("ERG_Material_Yellow_Section.pdf"), official("TIH_Table1.pdf"),
+                                      official("TIH_Table2.pdf"), official("TIH_Table3.pdf") },
+                                    &error);
+        ASSERT_TRUE(read) << error.toStdString();
+        s_tables = new ErgTables(*read);
+    }
+    static void TearDownTestSuite()
+    {
+        delete s_tables;
+        s_tables = nullptr;
+    }
+    static const ErgTables& tables() { return *s_tables; }
+
+    static QList<ErgTable1Row> table1Rows(const QString& id)
+    {
+        QList<ErgTable1Row> out;
+        for (const ErgTable1Row& r : tables().table1)
+            if (r.id == id)
+                out << r;
+        return out;
+    }
+
+private:
+    static inline ErgTables* s_tables = nullptr;
+};
+
+void expectDistances(const ErgDistances& d, const QStringList& printed)
+{
+    EXPECT_EQ(d.values(), printed);
+}
+
+} // namespace
+
+TEST_F(ErgImportTest, WholeTablesHaveTheGuidebooksCounts)
+{
+    QSet<QString> ids;
+    int highlighted = 0, explosives = 0;
+    for (const ErgIndexRow& r : tables().index) {
+        ids.insert(r.id);
+        highlighted += r.highlighted;
+        explosives += r.id == QString(QChar(0x2014));
+    }
+    EXPECT_EQ(tables().index.size(), 2771);
+    EXPECT_EQ(ids.size() - 1, 1983);  // less the explosives' dash
+    EXPECT_EQ(explosives, 4);
+    EXPECT_EQ(highlighted, 522);
+
+    QSet<QString> t1Ids, t1Pairs;
+    int water = 0;
+    for (const ErgTable1Row& r : tables().table1) {
+        t1Ids.insert(r.id);
+        t1Pairs.insert(r.id + QLatin1Char('^') + r.name);
+        water += r.condition == ErgImport::kWater;
+    }
+    EXPECT_EQ(tables().table1.size(), 537);
+    EXPECT_EQ(t1Ids.size(), 272);
+    EXPECT_EQ(water, 108);
+    EXPECT_EQ(t1Pairs.size(), 522);
+    EXPECT_EQ(tables().table2.size(), 108);
+    EXPECT_EQ(tables().table3.size(), 22);
+    // The green fill read from the drawn page names exactly Table 1's materials.
+    EXPECT_EQ(ErgImport::highlightMismatches(tables()), QStringList());
+}
+
+TEST_F(ErgImportTest, Table1RowsByValue)
+{
+    const auto ammonia = table1Rows(QStringLiteral("1005"));
+    ASSERT_EQ(ammonia.size(), 2);
+    EXPECT_EQ(ammonia[0].name, QStringLiteral("Ammonia, anhydrous"));
+    EXPECT_EQ(ammonia[1].name, QStringLiteral("Anhydrous ammonia"));  // same group, same figures
+    for (const ErgTable1Row& r : ammonia) {
+        EXPECT_EQ(r.guide, QStringLiteral("125"));
+        EXPECT_TRUE(r.condition.isEmpty());
+        expectDistances(r.small, { "30", "100", "0.1", "0.1", "0.2", "0.1" });
+        EXPECT_FALSE(r.large) << "Refer to Table 3";
+    }
+
+    const auto chlorine = table1Rows(QStringLiteral("1017"));
+    ASSERT_EQ(chlorine.size(), 1);
+    expectDistances(chlorine[0].small, { "60", "200", "0.3", "0.2", "1.5", "0.9" });
+    EXPECT_FALSE(chlorine[0].large);
+
+    const auto phosgene = table1Rows(QStringLiteral("1076"));
+    ASSERT_EQ(phosgene.size(), 1);
+    EXPECT_EQ(phosgene[0].name, QStringLiteral("Phosgene"));
+    expectDistances(phosgene[0].small, { "100", "300", "0.6", "0.4", "2.5", "1.6" });
+    ASSERT_TRUE(phosgene[0].large);
+    expectDistances(*phosgene[0].large, { "500", "1500", "3.0", "1.9", "9.5", "5.9" });
+
+    // Land before water, as printed; the suffix becomes the condition.
+    const auto bromine = table1Rows(QStringLiteral("1746"));
+    ASSERT_EQ(bromine.size(), 2);
+    EXPECT_EQ(bromine[0].name, QStringLiteral("Bromine trifluoride"));
+    EXPECT_EQ(bromine[0].condition, ErgImport::kLand);
+    expectDistances(bromine[0].small, { "30", "100", "0.1", "0.1", "0.2", "0.1" });
+    expectDistances(*bromine[0].large, { "30", "100", "0.3", "0.2", "0.5", "0.3" });
+    EXPECT_EQ(bromine[1].condition, ErgImport::kWater);
+    expectDistances(bromine[1].small, { "30", "100", "0.1", "0.1", "0.3", "0.2" });
+    expectDistances(*bromine[1].large, { "100", "300", "0.8", "0.5", "2.8", "1.8" });
+}
+
+TEST_F(ErgImportTest, Table1GroupsWrappedNamesAndOpenEndedFigures)
+{
+    // The figures sit beside the second synonym's first line; the group's
+    // rules give them to both.
+    const auto r1113 = table1Rows(QStringLiteral("1082"));
+    ASSERT_EQ(r1113.size(), 2);
+    EXPECT_EQ(r1113[1].name, QStringLiteral("Trifluorochloroethylene, stabilized"));
+    EXPECT_EQ(r1113[0].small.values(), r1113[1].small.values());
+    ASSERT_TRUE(r1113[0].large);
+    EXPECT_EQ(r1113[0].large->nightMi, QStringLiteral("0.5"));
+
+    const auto pentasulfide = table1Rows(QStringLiteral("1340"));
+    ASSERT_EQ(pentasulfide.size(), 2);
+    EXPECT_EQ(pentasulfide[0].name, QStringLiteral("Phosphorus pentasulfide, free from yellow and white phosphorus"));
+    EXPECT_EQ(pentasulfide[0].condition, ErgImport::kWater);
+
+    const auto nickel = table1Rows(QStringLiteral("1259"));
+    ASSERT_EQ(nickel.size(), 1);
+    ASSERT_TRUE(nickel[0].large);
+    EXPECT_EQ(nickel[0].large->dayKm, QStringLiteral("11.0+"));
+    EXPECT_EQ(nickel[0].large->nightMi, QStringLiteral("7.0+"));
+}
+
+TEST_F(ErgImportTest, IndexRowsJoinWrappedNamesAndKeepThePolymerizationMark)
+{
+    auto find = [&](const QString& id, const QString& name) -> const ErgIndexRow* {
+        for (const ErgIndexRow& r : tables().index)
+            if (r.id == id && r.name == name)
+                return &r;
+        return nullptr;
+    };
+    EXPECT_TRUE(find(QStringLiteral("1021"), QStringLiteral("1-Chloro-1,2,2,2-tetrafluoroethane")));
+    EXPECT_TRUE(find(QStringLiteral("1058"), QStringLiteral("Liquefied gases, non-flammable, charged with nitrogen, carbon dioxide or air")));
+    const ErgIndexRow* butadienes = find(QStringLiteral("1010"), QStringLiteral("Butadienes and hydrocarbon mixture, stabilized"));
+    ASSERT_TRUE(butadienes);
+    EXPECT_EQ(butadienes->guide, QStringLiteral("116P"));
+    EXPECT_FALSE(butadienes->highlighted);
+    const ErgIndexRow* ammonia = find(QStringLiteral("1005"), QStringLiteral("Ammonia, anhydrous"));
+    ASSERT_TRUE(ammonia);
+    EXPECT_TRUE(ammonia->highlighted);
+    const ErgIndexRow& first = tables().index.first();
+    EXPECT_EQ(first.id, QString(QChar(0x2014)));
+    EXPECT_EQ(first.guide, QStringLiteral("112"));
+    EXPECT_EQ(first.name, QStringLiteral("Ammonium nitrate-fuel oil mixtures"));
+}
+
+TEST_F(ErgImportTest, Tables2And3ByValue)
+{
+    QHash<QString, QStringList> gases;
+    for (const ErgTable2Row& r : tables().table2)
+        gases.insert(r.id + QLatin1Char(' ') + r.name, r.gases);
+    EXPECT_EQ(gases.value(QStringLiteral("1384 Sodium dithionite")), (QStringList{ "H2S", "SO2" }));
+    EXPECT_EQ(gases.value(QStringLiteral("1746 Bromine trifluoride")), (QStringList{ "HF", "Br2" }));
+    EXPECT_EQ(gases.value(QStringLiteral("1432 Sodium phosphide")), (QStringList{ "PH3" }));
+
+    const ErgTable3Row* tonSulfur = nullptr;
+    const ErgTable3Row* hclRail = nullptr;
+    for (const ErgTable3Row& r : tables().table3) {
+        if (r.ids == QStringList{ "1079" } && r.container == QLatin1String("Multiple ton cylinders"))
+            tonSulfur = &r;
+        if (r.ids == QStringList({ "1050", "2186" }) && r.container == QLatin1String("Rail tank car"))
+            hclRail = &r;
+    }
+    ASSERT_TRUE(tonSulfur);
+    EXPECT_EQ(tonSulfur->values, (QStringList{ "500", "1500", "5.2", "3.3", "2.2", "1.4", "1.7", "1.1", "7.4", "4.3", "4.0", "2.5", "2.7", "1.7" }));
+    ASSERT_TRUE(hclRail);
+    EXPECT_EQ(hclRail->values.first(), QStringLiteral("500"));
+    EXPECT_EQ(tables().table3.first().container, QStringLiteral("Rail tank car"));
+    EXPECT_EQ(tables().table3.first().values.at(8), QStringLiteral("4.1"));
+}
+
+TEST_F(ErgImportTest, MaterialsLinesCarryTheMarksOfTables1And2)
+{
+    const QStringList lines = materialsLines(tables());
+    ASSERT_EQ(lines.size(), tables().index.size());
+    EXPECT_TRUE(lines.contains(QStringLiteral("Ammonia, anhydrous^^125^1005^X^^")));
+    EXPECT_TRUE(lines.contains(QStringLiteral("Bromine trifluoride^^144^1746^HF, Br2^W^")));
+    EXPECT_TRUE(lines.contains(QStringLiteral("Dimethyldichlorosilane^^155^1162^HCl^W^")));
+    EXPECT_TRUE(lines.contains(QStringLiteral("Butadienes, stabilized^^116P^1010^^^")));
+    EXPECT_EQ(lines.first(), QStringLiteral("Ammonium nitrate-fuel oil mixtures^^112^^^^"));
+    for (const QString& l : lines)
+        ASSERT_EQ(l.count(QLatin1Char('^')), 6) << l.toStdString();
+}
+
+TEST_F(ErgImportTest, BuiltInContainerRowsMatchTheImportedTable3)
+{
+    // Compared as numbers: the built-in rows write "11+" for the printed "11.0+".
+    auto number = [](QString s) { return s.remove(QLatin1Char('+')).toDouble(); };
+    QSet<QString> ids;
+    for (const ErgTable3Row& r : tables().table3)
+        for (const QString& id : r.ids)
+            ids.insert(id);
+    ASSERT_EQ(ids.size(), 7);
+    for (const QString& id : ids) {
+        QList<QStringList> imported;
+        for (const ErgTable3Row& r : tables().table3)
+            if (r.ids.contains(id))
+                imported << r.values;
+        const OrderedMap<QString> builtIn = QORModel::builtInLargeSpillIsoDistances(id);
+        ASSERT_EQ(builtIn.count(), imported.size()) << id.toStdString();
+        for (qsizetype i = 0; i < imported.size(); ++i) {
+            const QStringList figures = builtIn.value(builtIn.keys().at(i)).split(QLatin1Char(','));
+            ASSERT_EQ(figures.size(), 14);
+            for (int k = 0; k < 14; ++k) {
+                EXPECT_EQ(number(figures.at(k)), number(imported[i].at(k))) << "UN" << id.toStdString() << " row " << i << " figure " << k;
+                EXPECT_EQ(figures.at(k).endsWith(QLatin1Char('+')), imported[i].at(k).endsWith(QLatin1Char('+')));
+            }
+        }
+    }
+}
+
+TEST(ErgImportSections, TheWholeGreenSectionReadsLikeItsExtracts)
+{
+    QString error;
+    const auto whole = ErgImport::read({ official("TIH_Table.pdf"), official("ERG_Material_Yellow_Section.pdf") }, &error);
+    ASSERT_TRUE(whole) << error.toStdString();
+    const auto parts = ErgImport::read({ official("TIH_Table1.pdf"), official("TIH_Table2.pdf"), official("ERG_Material_Yellow_Section.pdf"),
+                                         official("TIH_Table3.pdf") },
+                                       &error);
+    ASSERT_TRUE(parts) << error.toStdString();
+    EXPECT_EQ(table1Csv(*whole), table1Csv(*parts));
+    EXPECT_EQ(table2Csv(*whole), table2Csv(*parts));
+    // The green section holds only the first page of Table 3.
+    EXPECT_EQ(whole->table3.size(), 8);
+    EXPECT_EQ(whole->table3, parts->table3.mid(0, 8));
+}
+
+TEST(ErgImportErrors, NameTheFileAndWhatIsMissing)
+{
+    QString error;
+    EXPECT_FALSE(ErgImport::read({ QStringLiteral("/nonexistent/erg.pdf") }, &error));
+    EXPECT_EQ(error, QStringLiteral("/nonexistent/erg.pdf: no such file"));
+
+    QTemporaryDir dir;
+    const QString notPdf = dir.filePath(QStringLiteral("notes.pdf"));
+    QFile f(notPdf);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write("%PDF-1.4\nthis is not really a PDF\n");
+    f.close();
+    EXPECT_FALSE(ErgImport::read({ notPdf }, &error));
+    EXPECT_TRUE(error.startsWith(notPdf + QStringLiteral(": "))) << error.toStdString();
+
+    // Files that hold only some sections: the rest is named as not found.
+    EXPECT_FALSE(ErgImport::read({ official("TIH_Table2.pdf"), official("Guide_introduction.pdf") }, &error));
+    EXPECT_TRUE(error.startsWith(QStringLiteral("TIH_Table2.pdf, Guide_introduction.pdf: not found: the yellow index"))) << error.toStdString();
+    EXPECT_TRUE(error.contains(QStringLiteral("Table 1"))) << error.toStdString();
+    EXPECT_TRUE(error.contains(QStringLiteral("Table 3"))) << error.toStdString();
+    EXPECT_FALSE(error.contains(QStringLiteral("Table 2 ("))) << error.toStdString();
+}
+
+TEST(ErgImportErrors, ATruncatedExtractGivesAnErrorOrFewerRowsNeverACrash)
+{
+    QFile f(official("TIH_Table3.pdf"));
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    const QByteArray bytes = f.readAll();
+    for (const qsizetype size : { qsizetype(0), qsizetype(100), bytes.size() / 2, bytes.size() - 200 }) {
+        QString error;
+        const auto tables = ErgImport::readData(bytes.left(size), QStringLiteral("cut.pdf"), &error);
+        if (tables)
+            EXPECT_LE(tables->table3.size(), 22);
+        else
+            EXPECT_TRUE(error.startsWith(QStringLiteral("cut.pdf: "))) << error.toStdString();
+    }
+}
