@@ -376,6 +376,8 @@ private:
     {
         for (int p = 0; p < count; ++p) {
             const QString metricText = r.at(first + 2 * p), imperialText = r.at(first + 2 * p + 1);
+            if (metricText.isNull() || imperialText.isNull())
+                continue;  // reported as NULL
             const auto metric = distance(metricText), imperial = distance(imperialText);
             if (!metric || !imperial) {
                 report.add(row, QStringLiteral("%1: distance \"%2\" is not a number (optionally followed by \"+\")")

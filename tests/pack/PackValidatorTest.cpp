@@ -111,10 +111,59 @@ TEST(PackValidator, NullsWhereTheLookupsDoNotGuard)
     const QString npg = QStringLiteral("npg.db");
     EXPECT_REPORTS(v, npg, QStringLiteral("iso_distances row: small_isolation_ft NULL"), 2);
     EXPECT_REPORTS(v, npg, QStringLiteral("iso_distances row: large_day_km NULL"), 3);
-    EXPECT_FALSE(reports(v, npg, QStringLiteral("iso_distances"), 4));
+    EXPECT_FALSE(reports(v, npg, QStringLiteral("iso_distances row:"), 4));
     EXPECT_REPORTS(v, npg, QStringLiteral("hmt row: packing_group NULL"));
     EXPECT_REPORTS(v, npg, QStringLiteral("nfpa row: health NULL"));
     EXPECT_REPORTS(v, QStringLiteral("hazmat_incidents.dat"), QStringLiteral("Mode_of_Transportation NULL"), 2);
+}
+
+TEST(PackValidator, DistancesAreNumbersInAgreeingUnits)
+{
+    MiniPack pack;
+    pack.sql(QStringLiteral("npg.db"), QStringLiteral(
+        // row 2: no material carries this UN number
+        "insert into iso_distances values ('9999',NULL,'30','100','0.1','0.1','0.2','0.1','','','','','','');"
+        // row 3: a figure that is not a number
+        "insert into iso_distances values ('1005','','30','100','0.l','0.1','0.2','0.1','','','','','','');"
+        // row 4: night miles far from the kilometres; large isolation feet far from the metres
+        "insert into iso_distances values ('1005','','30','100','0.1','0.1','1.5','0.2','100','1000','0.5','0.3','1.0','0.6');"
+        // row 5: the guidebook's own loosest pairs and open-ended figures pass
+        "insert into iso_distances values ('1005','','400','1250','0.5','0.4','1.3','0.9','1000','3000','11.0+','7.0+','7.4','4.3');"));
+    pack.seal();
+    const auto v = pack.validate();
+    const QString npg = QStringLiteral("npg.db");
+    EXPECT_REPORTS(v, npg, QStringLiteral("iso_distances row (UN 9999): no material"), 2);
+    EXPECT_REPORTS(v, npg, QStringLiteral("distance \"0.l\" is not a number"), 3);
+    EXPECT_REPORTS(v, npg, QStringLiteral("1.5 km and 0.2 mi disagree"), 4);
+    EXPECT_REPORTS(v, npg, QStringLiteral("100 m and 1000 ft disagree"), 4);
+    EXPECT_FALSE(reports(v, npg, QStringLiteral("iso_distances"), 5)) << describe(v).join(QLatin1Char('\n')).toStdString();
+    EXPECT_FALSE(reports(v, npg, QStringLiteral("iso_distances"), 1));
+}
+
+TEST(PackValidator, BuiltInContainerRowsMustMatchThePacksTable)
+{
+    const QString rows[] = { "'Rail tank car','300','1000','1.6','1.0','1.2','0.8','1.0','0.6','4.1','2.6','2.1','1.3','1.3','0.8'",
+                             "'Highway tank truck or trailer','150','500','0.8','0.5','0.5','0.3','0.4','0.3','1.8','1.1','0.7','0.4','0.6','0.4'",
+                             "'Agricultural nurse tank','60','200','0.5','0.3','0.3','0.2','0.3','0.2','1.4','0.9','0.3','0.2','0.3','0.2'",
+                             "'Multiple small cylinders','30','100','0.3','0.2','0.2','0.1','0.1','0.1','0.7','0.5','0.3','0.2','0.2','0.1'" };
+    auto packWith = [&](const QString& lastRow) {
+        auto pack = std::make_unique<MiniPack>();
+        QString sql;
+        for (int i = 0; i < 3; ++i)
+            sql += QStringLiteral("insert into large_spill_distances values ('1005',%1);").arg(rows[i]);
+        sql += QStringLiteral("insert into large_spill_distances values ('1005',%1);").arg(lastRow);
+        pack->sql(QStringLiteral("npg.db"), sql);
+        pack->seal();
+        return pack;
+    };
+    const QString npg = QStringLiteral("npg.db");
+    const auto good = packWith(rows[3])->validate();
+    EXPECT_FALSE(reports(good, npg, QStringLiteral("large_spill_distances"))) << describe(good).join(QLatin1Char('\n')).toStdString();
+    // The figure the built-in rows once had: 0.2 mi by day in moderate wind.
+    QString old = rows[3];
+    old.replace(QStringLiteral("'0.2','0.1','0.1','0.1','0.7'"), QStringLiteral("'0.2','0.2','0.1','0.1','0.7'"));
+    ASSERT_NE(old, rows[3]);
+    EXPECT_REPORTS(packWith(old)->validate(), npg, QStringLiteral("large_spill_distances (UN 1005): the built-in container rows differ"));
 }
 
 TEST(PackValidator, PagesNeedTheBodyTag)
