@@ -72,3 +72,34 @@ TEST(Isolation, NonNumericIdFailsQuietly)
     EXPECT_TRUE(m->isolationDistancesForMaterial(*m->materials.at(0)).isEmpty());
     EXPECT_EQ(m->classForMaterial(*m->materials.at(0)), "");
 }
+
+TEST(Isolation, ContainerTableFromThePackOrBuiltIn)
+{
+    {
+        // A pack with Table 3 rows: its names and figures, in row order; other IDs get nothing.
+        FixturePack pack;
+        pack.setMaterials({ "HYDROGEN CHLORIDE, REFRIGERATED LIQUID^2.3^125^2186^X^^", "SULFUR DIOXIDE^2.3^125^1079^X^^" });
+        pack.sql("npg.db",
+                 "insert into large_spill_distances values ('2186','Rail tank car','500','1500','3.7','2.3','2.0','1.3','1.7','1.1','9.7','6.1','3.3','2.1','2.2','1.4');"
+                 "insert into large_spill_distances values ('2186','Highway tank truck or trailer','200','600','1.5','0.9','0.8','0.5','0.6','0.4','3.7','2.3','1.5','0.9','0.8','0.5');");
+        ModelFixture model;
+        QORModel* m = QORModel::sharedInstance();
+        const OrderedMap<QString> hcl = m->largeSpillIsoDistancesForMaterial(*m->materials.at(0));
+        EXPECT_EQ(hcl.keys(), QStringList({ "Rail tank car", "Highway tank truck or trailer" }));
+        EXPECT_EQ(hcl.value("Rail tank car"), "500,1500,3.7,2.3,2.0,1.3,1.7,1.1,9.7,6.1,3.3,2.1,2.2,1.4");
+        EXPECT_TRUE(m->largeSpillIsoDistancesForMaterial(*m->materials.at(1)).isEmpty()) << "the pack's table is the whole answer";
+    }
+    {
+        // Without rows, the built-in table answers, with the guidebook's figures.
+        FixturePack pack;
+        pack.setMaterials({ "SULFUR DIOXIDE^2.3^125^1079^X^^" });
+        ModelFixture model;
+        QORModel* m = QORModel::sharedInstance();
+        const OrderedMap<QString> so2 = m->largeSpillIsoDistancesForMaterial(*m->materials.at(0));
+        ASSERT_EQ(so2.count(), 4);
+        EXPECT_EQ(so2.value("Multiple ton cylinders").split(',').at(11), "2.5");
+    }
+    EXPECT_EQ(QORModel::builtInLargeSpillIsoDistances("2186").keys(), QORModel::builtInLargeSpillIsoDistances("1050").keys());
+    EXPECT_EQ(QORModel::builtInLargeSpillIsoDistances("1005").value("Multiple Small Cylinders").split(',').at(5), "0.1");
+    EXPECT_TRUE(QORModel::builtInLargeSpillIsoDistances("1090").isEmpty());
+}
