@@ -438,43 +438,6 @@ WATER_LARGE = [('100', '300', '0.6', '0.4', '1.9', '1.2'), ('300', '1000', '1.4'
 CONTAINER_IDS = {'1005', '1017', '1040', '1050', '2186', '1052', '1079'}
 
 
-def iso_sql(materials):
-    lines = ['-- Sample isolation and protective action distances (not official data).']
-    done = set()
-    for m in materials:
-        if not m.tih or m.un in done:
-            continue
-        done.add(m.un)
-        i = h('iso' + m.un, len(SMALL))
-        if m.un in CONTAINER_IDS:
-            # Large spills of these come from the container table built into the app.
-            lines.append('insert into iso_distances values (%s,NULL,%s,%s);' % (
-                q(m.un), ','.join(q(v) for v in SMALL[i]), ','.join(["''"] * 6)))
-            continue
-        large = LARGE[min(i, len(LARGE) - 1)]
-        if m.tih == 'X':
-            cond = "''" if h('cond' + m.un, 5) == 0 else 'NULL'
-            lines.append('insert into iso_distances values (%s,%s,%s,%s);' % (
-                q(m.un), cond, ','.join(q(v) for v in SMALL[i]), ','.join(q(v) for v in large)))
-            continue
-        j = h('water' + m.un, len(WATER_SMALL))
-        if m.cls in ('6.1', '8', '2.3') and m.guide[:3] == '137':
-            lines.append('insert into iso_distances values (%s,%s,%s,%s);' % (
-                q(m.un), q('When Spilled on Land'), ','.join(q(v) for v in SMALL[min(i, 2)]),
-                ','.join(q(v) for v in LARGE[min(i, 2)])))
-        lines.append('insert into iso_distances values (%s,%s,%s,%s);' % (
-            q(m.un), q('When Spilled in Water'), ','.join(q(v) for v in WATER_SMALL[j]),
-            ','.join(q(v) for v in WATER_LARGE[j])))
-    # The generic toxic entries carry the distances of their worst case.
-    for un in ('2810', '1760', '3512', '3517', '3518'):
-        if un not in done:
-            lines.append("insert into iso_distances values (%s,NULL,'30','100','0.2','0.1','0.5','0.3',"
-                         "'300','1000','1.8','1.1','4.7','2.9');" % q(un))
-    return lines
-
-
-# ---------------------------------------------------------------- shipping
-
 def hmt_row(m, pg, symbols=''):
     cls = major_class(m.cls)
     tihz = bool(m.tih) and m.tih == 'X'
@@ -652,7 +615,8 @@ def write(path, lines):
 
 def main():
     materials, bases = build_materials()
-    write('chemicals_2024.csv', [m.line() for m in materials])
+    # The materials file and the isolation distances come from the guidebook
+    # pages through the pack builder; the seed no longer writes them.
 
     classes, placards = {}, {}
     for m in materials:
@@ -669,7 +633,6 @@ def main():
         if h('noplacard' + un, 40) != 0:
             tables.append('insert into dot_placards values (%s,%s);' % (q(un), q(placards[un])))
     write('src/npg.db/10-classes-placards.sql', tables)
-    write('src/npg.db/20-iso_distances.sql', iso_sql(materials))
     write('src/npg.db/30-chemistry.sql', chemistry_sql(materials))
     hmt = hmt_sql(bases)
     write('src/npg.db/40-hmt.sql', hmt)
