@@ -352,7 +352,7 @@ bool readTable1Page(const PdfText& pdf, const Page& page, QList<ErgTable1Row>* r
             left = std::min(left, l[0].x);
     }
     if (right == 0 || left > cut)
-        return fail(page.number, QStringLiteral("no Table 1 rows with distances"));
+        return true;  // a page that only names the table
     cut -= 2;
     const std::vector<double> rules = ruleLines(pdf, page, left, right);
     if (rules.size() < 2)
@@ -423,7 +423,7 @@ bool readTable2Page(const Page& page, QList<ErgTable2Row>* rows, const Failure& 
             }
     }
     if (gasX < 0)
-        return fail(page.number, QStringLiteral("Table 2 has no \"TIH Gas(es)\" column head"));
+        return true;  // the heading alone, as in a table of contents
     ErgTable2Row* current = nullptr;
     for (size_t i = first; i < lines.size(); ++i) {
         const Line& l = lines[i];
@@ -493,7 +493,7 @@ bool readTable3Page(const PdfText& pdf, const Page& page, QList<ErgTable3Row>* r
             left = std::min(left, l.front().x);
     }
     if (right == 0)
-        return fail(page.number, QStringLiteral("no Table 3 rows with distances"));
+        return true;  // a page that only names the table
     cut -= 2;
     if (left > cut)
         left = cut - 80;

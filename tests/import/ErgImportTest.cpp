@@ -3,7 +3,10 @@
 #include "import/ErgImport.h"
 #include "model/QORModel.h"
 
+#include <QBuffer>
 #include <QFile>
+#include <QPainter>
+#include <QPdfWriter>
 #include <QSet>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -287,4 +290,70 @@ TEST(ErgImportErrors, ATruncatedExtractGivesAnErrorOrFewerRowsNeverACrash)
         else
             EXPECT_TRUE(error.startsWith(QStringLiteral("cut.pdf: "))) << error.toStdString();
     }
+}
+
+namespace {
+
+// A one-page index drawn like the guidebook's: two columns of "ID Guide Name
+// of Material", rows 15 pt apart, a green fill behind the rows asked for.
+QByteArray drawnIndex(const QList<QStringList>& rows, const QSet<int>& green)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setPageSize(QPageSize(QSizeF(391.5, 549), QPageSize::Point));
+        writer.setPageMargins(QMarginsF(0, 0, 0, 0));
+        writer.setResolution(72);
+        QPainter p(&writer);
+        QFont font(QStringLiteral("DejaVu Sans"));
+        font.setPixelSize(9);
+        p.setFont(font);
+        for (const double x : { 30.0, 205.0 }) {
+            p.drawText(QPointF(x, 20), QStringLiteral("ID"));
+            p.drawText(QPointF(x + 30, 20), QStringLiteral("Guide"));
+            p.drawText(QPointF(x + 65, 20), QStringLiteral("Name of Material"));
+        }
+        for (int i = 0; i < rows.size(); ++i) {
+            const double y = 50 + 15 * i;
+            if (green.contains(i))
+                p.fillRect(QRectF(28, y - 10, 160, 13), QColor::fromRgbF(0.5, 1, 0));
+            const QStringList& r = rows.at(i);
+            p.drawText(QPointF(r.at(0).isEmpty() ? 100 : 30, y), r.at(0).isEmpty() ? r.at(2) : r.at(0));
+            if (!r.at(0).isEmpty()) {
+                p.drawText(QPointF(60, y), r.at(1));
+                p.drawText(QPointF(95, y), r.at(2));
+            }
+        }
+    }
+    return buffer.data();
+}
+
+} // namespace
+
+TEST(ErgImportDrawn, IndexRowsWrapsAndTheGreenFill)
+{
+    QString error;
+    const auto tables = ErgImport::readData(drawnIndex({ { "1005", "125", "Ammonia, anhydrous" },
+                                                         { "1010", "116P", "Butadienes and hydrocarbon" },
+                                                         { "", "", "mixture, stabilized" },
+                                                         { "1017", "124", "Chlorine" } },
+                                                       { 0, 3 }),
+                                            QStringLiteral("drawn.pdf"), &error);
+    ASSERT_TRUE(tables) << error.toStdString();
+    ASSERT_EQ(tables->index.size(), 3);
+    EXPECT_EQ(tables->index[1].name, QStringLiteral("Butadienes and hydrocarbon mixture, stabilized"));
+    EXPECT_EQ(tables->index[1].guide, QStringLiteral("116P"));
+    EXPECT_TRUE(tables->index[0].highlighted);
+    EXPECT_FALSE(tables->index[1].highlighted);
+    EXPECT_TRUE(tables->index[2].highlighted);
+    EXPECT_TRUE(tables->table1.isEmpty());
+}
+
+TEST(ErgImportDrawn, AnUnreadableRowNamesFileAndPage)
+{
+    QString error;
+    EXPECT_FALSE(ErgImport::readData(drawnIndex({ { "1005", "125", "Ammonia, anhydrous" }, { "10O5", "125", "Misprinted" } }, {}),
+                                     QStringLiteral("drawn.pdf"), &error));
+    EXPECT_EQ(error.toStdString(), "drawn.pdf: page 1: unreadable index row \"10O5 125 Misprinted\"");
 }
