@@ -18,6 +18,10 @@ struct PdfWord {
     QString text;
     QRectF box;          // in points, origin top left of the page as displayed
     bool spaceAfter = false;
+    // The font as the PDF names it (subset prefix included) and its size in
+    // points: headings, emphasis and subscripts are known only by their type.
+    QString font;
+    double fontSize = 0;
 };
 
 class PdfText {
