@@ -677,6 +677,9 @@ QString blocksHtml(const std::vector<GuideBlock>& blocks)
         closeTo(0);
         switch (b.kind) {
         case K::Title:
+            if (sectionOpen)
+                html += QStringLiteral("</div>\n");
+            sectionOpen = false;
             html += QStringLiteral("<h1 id=\"%1\">%2</h1>\n").arg(anchorFor(b.text), b.html);
             break;
         case K::Section:
