@@ -675,16 +675,16 @@ QString blocksHtml(const std::vector<GuideBlock>& blocks)
             continue;
         }
         closeTo(0);
+        // A section runs to the next section or page title.
+        if (sectionOpen && (b.kind == K::Title || b.kind == K::Section)) {
+            html += QStringLiteral("</div>\n");
+            sectionOpen = false;
+        }
         switch (b.kind) {
         case K::Title:
-            if (sectionOpen)
-                html += QStringLiteral("</div>\n");
-            sectionOpen = false;
             html += QStringLiteral("<h1 id=\"%1\">%2</h1>\n").arg(anchorFor(b.text), b.html);
             break;
         case K::Section:
-            if (sectionOpen)
-                html += QStringLiteral("</div>\n");
             sectionOpen = true;
             html += QStringLiteral("<div class=\"section\" id=\"%1\">\n<h3>%2</h3>\n").arg(anchorFor(b.text), b.html);
             break;
