@@ -87,6 +87,13 @@ struct Segment {
     }
 };
 
+// The size with the largest count, 0 for none.
+double commonest(const std::map<double, int>& sizes)
+{
+    const auto it = std::max_element(sizes.begin(), sizes.end(), [](auto a, auto b) { return a.second < b.second; });
+    return it == sizes.end() ? 0 : it->first;
+}
+
 void measure(Segment* s)
 {
     s->left = s->top = 1e9;
@@ -101,7 +108,7 @@ void measure(Segment* s)
             ++sizes[std::round(sizeOf(*w.word) * 2) / 2];
         }
     }
-    s->size = sizes.empty() ? 0 : std::max_element(sizes.begin(), sizes.end(), [](auto a, auto b) { return a.second < b.second; })->first;
+    s->size = commonest(sizes);
 }
 
 // The most common type size among the words: the size of the running text.
@@ -110,9 +117,7 @@ double bodySize(const std::vector<const PdfWord*>& words)
     std::map<double, int> sizes;
     for (const PdfWord* w : words)
         sizes[std::round(sizeOf(*w) * 2) / 2] += int(w->text.size());
-    if (sizes.empty())
-        return 0;
-    return std::max_element(sizes.begin(), sizes.end(), [](auto a, auto b) { return a.second < b.second; })->first;
+    return commonest(sizes);
 }
 
 bool headingLike(const Segment& s, double body)
@@ -508,9 +513,11 @@ bool containsLine(const std::vector<PdfWord>& words, const QString& text)
 
 bool readIntroPages(const PdfText& pdf, const std::vector<std::vector<PdfWord>>& pages, int firstGuidePage, std::vector<GuideBlock>* out)
 {
+    // The introduction is the last page before the guides that bears its
+    // heading, and those after it; a table of contents further back may name it too.
     const int end = firstGuidePage < 0 ? int(pages.size()) : firstGuidePage;
     int first = -1;
-    for (int p = 0; p < end && first < 0; ++p)
+    for (int p = end - 1; p >= 0 && first < 0; --p)
         if (containsLine(pages[size_t(p)], kIntroHeading))
             first = p;
     if (first < 0)
