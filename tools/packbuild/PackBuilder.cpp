@@ -248,7 +248,9 @@ bool PackBuilder::buildGuidePages()
     QString why;
     if (!pdf.open(pdfPath, &why) || !import::readGuides(pdf, &guides, &why))
         return fail(pdfPath, why.section(QStringLiteral(": "), 1));
-    if (guides.introduction.empty() || guides.introduction.front().kind == import::GuideBlock::Kind::Paragraph)
+    const auto title = std::find_if(guides.introduction.begin(), guides.introduction.end(),
+                                    [](const import::GuideBlock& b) { return b.kind == import::GuideBlock::Kind::Title; });
+    if (title == guides.introduction.end())
         return fail(pdfPath, QStringLiteral("no \"HOW TO USE THE ORANGE GUIDES\" pages before the guides"));
     // Blank guides ("Intentionally left blank") get neither a line nor a page:
     // the guide list must not offer a page with nothing on it.
@@ -257,10 +259,7 @@ bool PackBuilder::buildGuidePages()
     for (const import::ErgGuide& g : guides.guides)
         if (!g.blank && !writePage(g.number, QStringLiteral("Guide %1").arg(g.number), import::guideBodyHtml(g), pdfPath))
             return false;
-    const auto title = std::find_if(guides.introduction.begin(), guides.introduction.end(),
-                                    [](const import::GuideBlock& b) { return b.kind == import::GuideBlock::Kind::Title; });
-    return writePage(QString::fromLatin1(kGuideIntroductionPage), title == guides.introduction.end() ? QString() : title->text,
-                     import::introductionBodyHtml(guides.introduction), pdfPath);
+    return writePage(QString::fromLatin1(kGuideIntroductionPage), title->text, import::introductionBodyHtml(guides.introduction), pdfPath);
 }
 
 bool PackBuilder::buildInfoPages()
