@@ -76,9 +76,12 @@ std::vector<PdfWord> PdfText::words(int page) const
     std::unique_ptr<poppler::page> p(m_doc->create_page(page));
     if (!p)
         return out;
-    for (const poppler::text_box& box : p->text_list()) {
+    for (const poppler::text_box& box : p->text_list(poppler::page::text_list_include_font)) {
         const poppler::rectf r = box.bbox();
-        out.push_back({ fromUstring(box.text()), QRectF(r.x(), r.y(), r.width(), r.height()), box.has_space_after(), box.rotation() });
+        const bool hasFont = box.has_font_info();
+        out.push_back({ fromUstring(box.text()), QRectF(r.x(), r.y(), r.width(), r.height()), box.has_space_after(),
+                        box.rotation(), hasFont ? QString::fromStdString(box.get_font_name()) : QString(),
+                        hasFont ? box.get_font_size() : 0.0 });
     }
     return out;
 }

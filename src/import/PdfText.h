@@ -21,6 +21,10 @@ struct PdfWord {
     // Quarter turns of the text: 0 upright, 1 reading downwards, 2 upside
     // down, 3 reading upwards (tables set sideways on the page).
     int rotation = 0;
+    // The font as the PDF names it (subset prefix included) and its size in
+    // points: headings, emphasis and subscripts are known only by their type.
+    QString font;
+    double fontSize = 0;
 };
 
 class PdfText {

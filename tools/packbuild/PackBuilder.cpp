@@ -2,6 +2,8 @@
 
 #include "cli/IncidentImport.h"
 #include "import/ErgImport.h"
+#include "import/ErgGuides.h"
+#include "import/PdfText.h"
 #include "model/PackManifest.h"
 #include "model/PackSchema.h"
 
@@ -22,6 +24,8 @@ namespace qor::packbuild {
 namespace {
 // The incident summary always speaks of the last twelve months.
 constexpr int kIncidentMonths = 12;
+// The information page that explains the guides.
+constexpr char kGuideIntroductionPage[] = "howto";
 
 QStringList filesIn(const QString& dir, const QString& suffix)
 {
@@ -29,13 +33,6 @@ QStringList filesIn(const QString& dir, const QString& suffix)
     return names;
 }
 
-QString htmlList(const QJsonArray& items)
-{
-    QString html = QStringLiteral("<ul>\n");
-    for (const QJsonValue& v : items)
-        html += QStringLiteral("<li>%1</li>\n").arg(v.toString().toHtmlEscaped());
-    return html + QStringLiteral("</ul>");
-}
 } // namespace
 
 PackBuilder::PackBuilder(const QString& sourceDir, const QString& outputDir)
@@ -267,44 +264,26 @@ bool PackBuilder::writePage(const QString& name, const QString& title, const QSt
 
 bool PackBuilder::buildGuidePages()
 {
-    const QString jsonPath = src(QStringLiteral("src/guides.json"));
-    QString json, guideTemplate, csv;
-    if (!readText(jsonPath, &json) || !readText(src(QStringLiteral("src/guide.html")), &guideTemplate)
-        || !readText(src(QStringLiteral("guides.csv")), &csv))
+    // The guides and the page that explains them come from the guidebook's
+    // orange section as printed; nothing of their wording lives in the sources.
+    const QString pdfPath = src(QStringLiteral("official/erg2024/ERG_Guide_Section.pdf"));
+    import::PdfText pdf;
+    import::ErgGuides guides;
+    QString why;
+    if (!pdf.open(pdfPath, &why) || !import::readGuides(pdf, &guides, &why))
+        return fail(pdfPath, why.section(QStringLiteral(": "), 1));
+    const auto title = std::find_if(guides.introduction.begin(), guides.introduction.end(),
+                                    [](const import::GuideBlock& b) { return b.kind == import::GuideBlock::Kind::Title; });
+    if (title == guides.introduction.end())
+        return fail(pdfPath, QStringLiteral("no \"HOW TO USE THE ORANGE GUIDES\" pages before the guides"));
+    // Blank guides ("Intentionally left blank") get neither a line nor a page:
+    // the guide list must not offer a page with nothing on it.
+    if (!writeBytes(QStringLiteral("guides.csv"), import::guidesCsv(guides).toUtf8()))
         return false;
-    QJsonParseError pe;
-    const QJsonObject root = QJsonDocument::fromJson(json.toUtf8(), &pe).object();
-    if (pe.error != QJsonParseError::NoError)
-        return fail(jsonPath, pe.errorString());
-    const QJsonObject guides = root.value(QStringLiteral("guides")).toObject();
-    const QJsonObject families = root.value(QStringLiteral("families")).toObject();
-    int lineNumber = 0;
-    for (const QString& line : csv.split(QLatin1Char('\n'))) {
-        ++lineNumber;
-        const QStringList fields = line.split(QLatin1Char('^'));
-        if (fields.size() < 2)
-            continue;
-        const QString id = fields.at(0), title = fields.at(1);
-        const QString where = src(QStringLiteral("guides.csv")) + QLatin1Char(':') + QString::number(lineNumber);
-        const QString familyName = guides.value(id).toString();
-        const QJsonObject family = families.value(familyName).toObject();
-        if (family.isEmpty())
-            return fail(where, QStringLiteral("guide %1 has no wording family in src/guides.json").arg(id));
-        QHash<QString, QString> values = { { QStringLiteral("id"), id }, { QStringLiteral("title"), title.toHtmlEscaped() } };
-        for (const char* key : { "fire", "health", "clothing", "evacuation", "fireResponse", "spill" })
-            values.insert(QString::fromLatin1(key), htmlList(family.value(QLatin1String(key)).toArray()));
-        QStringList see;
-        for (const QJsonValue& v : family.value(QStringLiteral("see")).toArray())
-            if (v.toString() != id)
-                see << QStringLiteral("<a href=\"showguide://%1\">Guide %1</a>").arg(v.toString());
-        values.insert(QStringLiteral("see"), see.isEmpty() ? QString()
-                                                            : QStringLiteral("<p class=\"see-also\">See also: %1</p>").arg(see.join(QStringLiteral(", "))));
-        QString body = guideTemplate;
-        if (!fillTemplate(&body, values, src(QStringLiteral("src/guide.html")))
-            || !writePage(id, QStringLiteral("Guide %1").arg(id), body, where))
+    for (const import::ErgGuide& g : guides.guides)
+        if (!g.blank && !writePage(g.number, QStringLiteral("Guide %1").arg(g.number), import::guideBodyHtml(g), pdfPath))
             return false;
-    }
-    return true;
+    return writePage(QString::fromLatin1(kGuideIntroductionPage), title->text, import::introductionBodyHtml(guides.introduction), pdfPath);
 }
 
 bool PackBuilder::buildInfoPages()
