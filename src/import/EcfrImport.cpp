@@ -293,6 +293,12 @@ QString lineOfLastError()
 
 } // namespace
 
+QString SpecialProvision::anchoredHtml() const
+{
+    return QStringLiteral("<div class=\"provision\" id=\"%1\"><a name=\"%1\"></a>\n<h3>%1</h3>\n%2\n</div>\n")
+        .arg(code.toHtmlEscaped(), html);
+}
+
 QStringList HmtRow::columns() const
 {
     // The last column ("future") has no source and stays empty.
@@ -400,9 +406,14 @@ void ShippingData::add(const EcfrSection& section)
     m_placardTable += section.placardTable;
     m_provisions += section.provisions;
     // The regulation pages hold the part 173 packaging sections.
-    if (section.number.startsWith(QLatin1String("173.")))
+    if (section.number.startsWith(QLatin1String("173."))) {
         for (const CfrNode& n : section.nodes)
             m_cfrText << QStringList{ section.number, n.nodeId, n.html, section.heading };
+        // "§ 173.203 Non-bulk packagings for ..." titles the shipping table's "203".
+        QString title = section.heading;
+        title.remove(QRegularExpression(QStringLiteral("^§\\s*173\\.\\S+\\s*")));
+        m_sectionTitles << QStringList{ section.number.mid(4), title.remove(QRegularExpression(QStringLiteral("\\.$"))) };
+    }
 }
 
 QString ShippingData::placardKey(const QString& unId, bool inhalationHazard) const
@@ -474,8 +485,10 @@ ImportTables ShippingData::tables() const
                 placards << QStringList{ id, *k.begin() };
         }
     }
-    if (!m_cfrText.isEmpty())
+    if (!m_cfrText.isEmpty()) {
         t[QStringLiteral("cfr_text")] = m_cfrText;
+        t[QStringLiteral("hmt_sections")] = m_sectionTitles;
+    }
     return t;
 }
 

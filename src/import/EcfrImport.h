@@ -34,6 +34,8 @@ struct HmtCounts {
 struct SpecialProvision {
     QString code;
     QString html;  // the provision's text as an HTML fragment
+    // The provision on its group's page, reachable as "#CODE" in both anchor forms.
+    QString anchoredHtml() const;
 };
 
 // One top-level block of a section's text, as HTML.
@@ -91,6 +93,7 @@ private:
     QList<QStringList> m_stowage;
     QList<QStringList> m_placardTable;
     QList<QStringList> m_cfrText;  // section_id, node_id, node_text, section_name
+    QList<QStringList> m_sectionTitles;  // "203", its heading's title
     QList<SpecialProvision> m_provisions;
 };
 

@@ -22,6 +22,11 @@ inline QString attribute(const xmlNode* n, const char* attr)
 // The text of a node with <br> read as a blank and white space collapsed;
 // `skip` leaves out whole elements (and their text).
 QString text(const xmlNode* n, const std::function<bool(const xmlNode*)>& skip = {});
+// The same with each <br> starting a new line; empty lines are dropped.
+QString lines(const xmlNode* n, const std::function<bool(const xmlNode*)>& skip = {});
+
+// The text as it stands, with "\n" for each <br> and after each <p> or <div>.
+QString rawText(const xmlNode* n);
 
 // Element children of `n` named `tag` (case-insensitive), in order.
 std::vector<const xmlNode*> children(const xmlNode* n, const char* tag);

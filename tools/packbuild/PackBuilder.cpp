@@ -52,7 +52,7 @@ bool PackBuilder::run()
         return fail(m_output, QStringLiteral("cannot clear the output folder"));
     if (!QDir().mkpath(m_output))
         return fail(m_output, QStringLiteral("cannot create the output folder"));
-    return readPackInfo() && copyPlainFiles() && buildDatabases() && buildGuidePages() && buildInfoPages()
+    return readPackInfo() && readOfficialSources() && copyPlainFiles() && buildDatabases() && buildGuidePages() && buildInfoPages()
         && buildProvisionPages() && buildArtwork() && writeManifest();
 }
 
@@ -110,6 +110,31 @@ bool PackBuilder::readPackInfo()
                      { QStringLiteral("buildDate"), m_buildDate },
                      { QStringLiteral("notice"), m_sample ? PackManifest::sampleNotice().toHtmlEscaped() : QString() } };
     return readText(src(QStringLiteral("src/page.html")), &m_pageTemplate);
+}
+
+bool PackBuilder::readOfficialSources()
+{
+    // Official values reach the pack only through the importers.
+    const QString cfrDir = src(QStringLiteral("official/cfr49"));
+    for (const QString& name : filesIn(cfrDir, QStringLiteral(".xml"))) {
+        QString why;
+        const auto section = import::readEcfrSection(cfrDir + QLatin1Char('/') + name, &why);
+        if (!section)
+            return fail(cfrDir + QLatin1Char('/') + name, why.section(QStringLiteral(": "), 1));
+        m_shipping.add(*section);
+    }
+    m_officialTables = m_shipping.tables();
+    const QString npgDir = src(QStringLiteral("official/niosh-npg"));
+    for (const QString& name : filesIn(npgDir, QStringLiteral(".tar.xz"))) {
+        QString why;
+        const auto guide = import::readNpg(npgDir + QLatin1Char('/') + name, &why);
+        if (!guide)
+            return fail(npgDir + QLatin1Char('/') + name, why);
+        const import::ImportTables t = guide->tables();
+        for (auto it = t.cbegin(); it != t.cend(); ++it)
+            m_officialTables[it.key()] += it.value();
+    }
+    return true;
 }
 
 bool PackBuilder::copyPlainFiles()
@@ -188,6 +213,12 @@ bool PackBuilder::buildDatabases()
             ok = imported ? incidents::insertIncidents(db, imported->incidents, &why) : false;
             if (!ok)
                 fail(dir, why);
+        }
+        if (ok) {
+            QString why;
+            ok = import::writeImportTables(db, m_officialTables, &why);
+            if (!ok)
+                fail(path, why);
         }
         // Table rows: src/<database file name>/*.sql, in name order.
         const QString sqlDir = src(QStringLiteral("src/") + schema.fileName);
@@ -317,28 +348,17 @@ bool PackBuilder::buildProvisionPages()
         { QStringLiteral("T"), QStringLiteral("UN Portable Tanks") },
         { QStringLiteral("numeric"), QStringLiteral("Numeric Provisions") },
     };
-    const QString path = src(QStringLiteral("src/provisions.csv"));
-    QString csv;
-    if (!readText(path, &csv))
-        return false;
+    // From an imported § 172.102; without it every page says so.
     QHash<QString, QString> bodies;
-    int lineNumber = 0;
-    for (const QString& line : csv.split(QLatin1Char('\n'))) {
-        ++lineNumber;
-        if (line.trimmed().isEmpty())
-            continue;
-        const qsizetype caret = line.indexOf(QLatin1Char('^'));
-        const QString code = line.left(caret).trimmed();
-        if (caret <= 0 || code.contains(QLatin1Char(' ')))
-            return fail(path + QLatin1Char(':') + QString::number(lineNumber), QStringLiteral("expected CODE^TEXT"));
-        // The page jumps to a provision by "#CODE", so both anchor forms are given.
-        bodies[specialProvisionPage(code)] += QStringLiteral("<div class=\"provision\" id=\"%1\"><a name=\"%1\"></a>\n<h3>%1</h3>\n<p>%2</p>\n</div>\n")
-                                                  .arg(code, line.mid(caret + 1).trimmed().toHtmlEscaped());
-    }
+    for (const import::SpecialProvision& p : m_shipping.provisions())
+        bodies[specialProvisionPage(p.code)] += p.anchoredHtml();
+    const QString missing = m_shipping.provisions().isEmpty()
+        ? regulationNotInPackHtml(QStringLiteral("49 CFR § 172.102 (special provisions)"))
+        : QStringLiteral("<p>No provisions of this group are in § 172.102 as imported.</p>\n");
     for (const QString& page : specialProvisionPages()) {
         const QString title = QStringLiteral("Special Provisions: %1").arg(titles.value(page));
-        const QString body = QStringLiteral("<h1>%1</h1>\n%2").arg(title, bodies.value(page, QStringLiteral("<p>No provisions of this group are used in this pack.</p>\n")));
-        if (!writePage(page, title, body, path))
+        const QString body = QStringLiteral("<h1>%1</h1>\n%2").arg(title, bodies.value(page, missing));
+        if (!writePage(page, title, body, src(QStringLiteral("official/cfr49"))))
             return false;
     }
     return true;

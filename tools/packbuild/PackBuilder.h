@@ -1,6 +1,9 @@
 #pragma once
 // Turns the pack sources (resources/) into the data pack the app reads.
 // Every step is deterministic: no clock, no random numbers, sorted inputs.
+#include "import/EcfrImport.h"
+#include "import/NpgImport.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -17,8 +20,14 @@ public:
     bool run();
     QString error() const { return m_error; }
 
+    // The shipping data read from the official sections (after run()). Its
+    // placardKey(unId, inhalationHazard) gives the placard field of a
+    // materials-file line.
+    const import::ShippingData& shipping() const { return m_shipping; }
+
 private:
     bool readPackInfo();
+    bool readOfficialSources();
     bool copyPlainFiles();
     bool buildDatabases();
     bool buildGuidePages();
@@ -48,6 +57,8 @@ private:
     QString m_buildDate;
     bool m_sample = true;
     QStringList m_sources;
+    import::ShippingData m_shipping;
+    import::ImportTables m_officialTables;
 };
 
 } // namespace qor::packbuild
