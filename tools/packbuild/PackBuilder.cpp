@@ -137,6 +137,24 @@ bool PackBuilder::readOfficialSources()
     return true;
 }
 
+QString PackBuilder::withPlacardKeys(const QString& materials) const
+{
+    // Field 1 (the placard key) follows the shipping table's class wherever
+    // the table lists the ID; field 4 is the inhalation-hazard mark.
+    QStringList lines = materials.split(QLatin1Char('\n'));
+    for (QString& line : lines) {
+        QStringList f = line.split(QLatin1Char('^'));
+        if (f.size() < 7)
+            continue;
+        const QString key = m_shipping.placardKey(f.at(3), !f.at(4).isEmpty());
+        if (key.isEmpty() || key == f.at(1))
+            continue;
+        f[1] = key;
+        line = f.join(QLatin1Char('^'));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
 bool PackBuilder::copyPlainFiles()
 {
     // Everything outside src/ is a resource as it stands.
@@ -151,6 +169,12 @@ bool PackBuilder::copyPlainFiles()
             || rel == QLatin1String("README.md"))
             continue;
         QDir().mkpath(QFileInfo(out(rel)).path());
+        if (rel == QLatin1String("chemicals_2024.csv")) {
+            QString text;
+            if (!readText(src(rel), &text) || !writeBytes(rel, withPlacardKeys(text).toUtf8()))
+                return false;
+            continue;
+        }
         if (!QFile::copy(src(rel), out(rel)))
             return fail(src(rel), QStringLiteral("cannot copy into the pack"));
     }

@@ -28,6 +28,7 @@ public:
 private:
     bool readPackInfo();
     bool readOfficialSources();
+    QString withPlacardKeys(const QString& materials) const;
     bool copyPlainFiles();
     bool buildDatabases();
     bool buildGuidePages();
