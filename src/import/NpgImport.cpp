@@ -135,8 +135,11 @@ void readCell(const xmlNode* td, NpgChemical* c)
     if (m.hasMatch() && labelColumns().contains(m.captured(1).section(QLatin1Char('('), 0, 0).toLower()))
         store(c, m.captured(1), m.captured(2));
     else if (text.startsWith(QLatin1String("See also:")))
+        // "See also: INTRODUCTION See ICSC CARD: 0126 See MEDICAL TESTS: 0044"
         c->cells.insert(QStringLiteral("icsc"),
-                        text.contains(QLatin1String("ICSC CARD:")) ? text.section(QLatin1String("ICSC CARD:"), 1).trimmed() : QString());
+                        text.contains(QLatin1String("ICSC CARD:"))
+                            ? text.section(QLatin1String("ICSC CARD:"), 1).section(QLatin1String(" See "), 0, 0).trimmed()
+                            : QString());
     else if (!text.isEmpty() && xml::attribute(td, "colspan") == QLatin1String("6") && !c->cells.contains(QStringLiteral("flammability")))
         c->cells.insert(QStringLiteral("flammability"), text);  // the unlabelled fire-class line
 }
