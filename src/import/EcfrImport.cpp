@@ -183,22 +183,6 @@ void readPlacardTable(const xmlNode* table, EcfrSection* s)
         }
 }
 
-// Provision tables of § 172.102: a code cell, then the provision's text.
-void readProvisionTable(const xmlNode* table, EcfrSection* s, QString (*html)(const xmlNode*))
-{
-    static const QRegularExpression code(QStringLiteral("^(?:A|B|IB|IP|N|W|TP|T)?\\d{1,3}$"));
-    for (const xmlNode* body : xml::findAll(table, "TBODY"))
-        for (const xmlNode* tr : xml::children(body, "TR")) {
-            const auto tds = xml::children(tr, "TD");
-            if (tds.size() < 2 || !code.match(xml::text(tds[0])).hasMatch())
-                continue;
-            QString text;
-            for (size_t i = 1; i < tds.size(); ++i)
-                text += QStringLiteral("<p>%1</p>").arg(html(tds[i]));
-            s->provisions << SpecialProvision{ xml::text(tds[0]), text };
-        }
-}
-
 // The section's own markup as plain HTML, for the regulation pages.
 QString toHtml(const xmlNode* n)
 {
@@ -232,6 +216,22 @@ QString toHtml(const xmlNode* n)
         }
     }
     return out;
+}
+
+// Provision tables of § 172.102: a code cell, then the provision's text.
+void readProvisionTable(const xmlNode* table, EcfrSection* s)
+{
+    static const QRegularExpression code(QStringLiteral("^(?:A|B|IB|IP|N|W|TP|T)?\\d{1,3}$"));
+    for (const xmlNode* body : xml::findAll(table, "TBODY"))
+        for (const xmlNode* tr : xml::children(body, "TR")) {
+            const auto tds = xml::children(tr, "TD");
+            if (tds.size() < 2 || !code.match(xml::text(tds[0])).hasMatch())
+                continue;
+            QString text;
+            for (size_t i = 1; i < tds.size(); ++i)
+                text += QStringLiteral("<p>%1</p>").arg(toHtml(tds[i]));
+            s->provisions << SpecialProvision{ xml::text(tds[0]), text };
+        }
 }
 
 // Column 10A's own paragraph, then one "(n) Stowage category "X" means"
@@ -338,7 +338,7 @@ std::optional<EcfrSection> parseEcfrSection(const QByteArray& bytes, const QStri
         else if (isPlacardTable(table))
             readPlacardTable(table, &s);
         else if (s.number == QLatin1String("172.102"))
-            readProvisionTable(table, &s, toHtml);
+            readProvisionTable(table, &s);
     }
     if (!s.hmt.isEmpty())
         readStowage(root, &s);
