@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -133,4 +134,21 @@ TEST(ImportCommands, BundledPackShowsTheShippingTable)
     const CliRun cfr = runCli({ "--resources", pack, "cfr", "201" });
     EXPECT_EQ(cfr.code, 1);
     EXPECT_TRUE(cfr.out.contains(QStringLiteral("49 CFR § 173.201 is not in this data pack")));
+}
+
+TEST(ImportCommands, BundledMaterialsTakeTheirPlacardFromTheTable)
+{
+    const QString pack = qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
+    QFile file(pack + QStringLiteral("/chemicals_2024.csv"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QHash<QString, QSet<QString>> keys;  // UN number -> placard keys of its lines
+    for (const QString& line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'))) {
+        const QStringList f = line.split(QLatin1Char('^'));
+        if (f.size() >= 7)
+            keys[f[3]].insert(f[1]);
+    }
+    EXPECT_EQ(keys.value("1089"), QSet<QString>{ "3" });
+    EXPECT_EQ(keys.value("1017"), QSet<QString>{ "2.3" });      // poison gas
+    EXPECT_EQ(keys.value("1051"), QSet<QString>{ "6.1-tih" });  // 6.1, poisonous by inhalation
+    EXPECT_EQ(keys.value("0004"), QSet<QString>{ "1.1" });      // 1.1D without its group
 }
