@@ -198,6 +198,26 @@
         <translation>Guerra química</translation>
     </message>
     <message>
+        <source>Exposure Routes</source>
+        <translation>Vías de exposición</translation>
+    </message>
+    <message>
+        <source>Symptoms</source>
+        <translation>Síntomas</translation>
+    </message>
+    <message>
+        <source>Target Organs</source>
+        <translation>Órganos diana</translation>
+    </message>
+    <message>
+        <source>Personal Protection</source>
+        <translation>Protección personal</translation>
+    </message>
+    <message>
+        <source>First Aid</source>
+        <translation>Primeros auxilios</translation>
+    </message>
+    <message>
         <source>Exposure:</source>
         <translation>Exposición:</translation>
     </message>

@@ -198,6 +198,26 @@
         <translation>Guerre chimique</translation>
     </message>
     <message>
+        <source>Exposure Routes</source>
+        <translation>Voies d&apos;exposition</translation>
+    </message>
+    <message>
+        <source>Symptoms</source>
+        <translation>Symptômes</translation>
+    </message>
+    <message>
+        <source>Target Organs</source>
+        <translation>Organes cibles</translation>
+    </message>
+    <message>
+        <source>Personal Protection</source>
+        <translation>Protection individuelle</translation>
+    </message>
+    <message>
+        <source>First Aid</source>
+        <translation>Premiers secours</translation>
+    </message>
+    <message>
         <source>Exposure:</source>
         <translation>Exposition :</translation>
     </message>

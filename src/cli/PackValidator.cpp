@@ -22,6 +22,8 @@ QString Violation::toString() const
 
 namespace {
 
+// The class a page carries when the pack lacks the regulation text it would show.
+const QString kNotInPack = QStringLiteral("not-in-pack");
 const QString kBodyTag = QStringLiteral("body style=\"background-color: #ffb045\">");
 constexpr int kMaxPerCheck = 25;  // a systematic fault is reported a few times, then counted
 
@@ -348,8 +350,8 @@ private:
         checkPlacardNames(*npg);
         checkPictograms(*npg);
         checkProvisionAnchors(*npg);
-        if (cfr)
-            checkSections(*npg, *cfr);
+        checkSections(*npg, cfr.get());
+        checkPlacardKeys(*npg);
     }
 
     // A distance as printed: a number, optionally followed by "+".
@@ -472,7 +474,7 @@ private:
     {
         if (const auto it = m_anchors.constFind(page); it != m_anchors.constEnd())
             return *it;
-        static const QRegularExpression anchor(QStringLiteral("\\b(?:id|name)\\s*=\\s*[\"']([^\"']+)[\"']"));
+        static const QRegularExpression anchor(QStringLiteral("\\b(?:id|name|class)\\s*=\\s*[\"']([^\"']+)[\"']"));
         QSet<QString> found;
         QFile file(m_dir.filePath(page + QStringLiteral(".html")));
         if (file.open(QIODevice::ReadOnly))
@@ -489,34 +491,72 @@ private:
         for (const QStringList& r : rows.value_or(QList<QStringList>())) {
             for (const QString& code : r.at(2).split(QStringLiteral(", "), Qt::SkipEmptyParts)) {
                 const QString page = specialProvisionPage(code);
-                if (!anchorsOf(page).contains(code))
+                // A pack without § 172.102 says so on every provision page.
+                if (!anchorsOf(page).contains(code) && !anchorsOf(page).contains(kNotInPack))
                     report.add(r.at(0).toInt(), QStringLiteral("hmt row (UN %1): special provision \"%2\" has no anchor in %3.html")
                                                     .arg(r.at(1), code, page));
             }
         }
     }
 
-    void checkSections(const ReadOnlyDb& npg, const ReadOnlyDb& cfr)
+    void checkSections(const ReadOnlyDb& npg, const ReadOnlyDb* cfr)
     {
         QSet<QString> titled, texts;
         for (const QStringList& r : npg.rows(QStringLiteral("select section_id from hmt_sections")).value_or(QList<QStringList>()))
             titled.insert(r.at(0));
-        for (const QStringList& r : cfr.rows(QStringLiteral("select distinct section_id from cfr_text")).value_or(QList<QStringList>()))
-            texts.insert(r.at(0));
+        if (cfr)
+            for (const QStringList& r : cfr->rows(QStringLiteral("select distinct section_id from cfr_text")).value_or(QList<QStringList>()))
+                texts.insert(r.at(0));
+        // A part 173 section, maybe with a paragraph: 202, 302c, 63(a), 247(h)(4).
+        static const QRegularExpression sectionNumber(QStringLiteral("^\\d+[a-z]?(?:\\([a-z0-9]+\\))*$"));
         Capped report{ this, QStringLiteral("npg.db") };
-        const auto rows = npg.rows(QStringLiteral("select rowid, un_id, non_bulk, bulk from hmt"));
+        const auto rows = npg.rows(QStringLiteral("select rowid, un_id, exceptions, non_bulk, bulk from hmt"));
         for (const QStringList& r : rows.value_or(QList<QStringList>())) {
-            for (const QString& raw : { r.at(2), r.at(3) }) {
-                const QString section = QString(raw).remove(QLatin1Char(' '));
+            for (int column = 2; column <= 4; ++column) {
+                const QString section = QString(r.at(column)).remove(QLatin1Char(' '));
                 if (section.isEmpty() || section == QLatin1String("None"))
                     continue;
                 for (const QString& piece : section.split(QLatin1Char(','))) {
-                    if (!titled.contains(piece))
+                    if (!sectionNumber.match(piece).hasMatch()) {
+                        report.add(r.at(0).toInt(), QStringLiteral("hmt row (UN %1): section reference \"%2\" is not a section number").arg(r.at(1), piece));
+                        continue;
+                    }
+                    if (column == 2)
+                        continue;  // exceptions are not linked to a page
+                    // Titles and texts are checked once the pack carries some:
+                    // without them the page says the text is not in the pack.
+                    if (!titled.isEmpty() && !titled.contains(piece))
                         report.add(r.at(0).toInt(), QStringLiteral("hmt row (UN %1): section %2 has no title in hmt_sections").arg(r.at(1), piece));
-                    if (!texts.contains(QStringLiteral("173.") + piece))
+                    if (!texts.isEmpty() && !texts.contains(QStringLiteral("173.") + piece))
                         report.add(r.at(0).toInt(), QStringLiteral("hmt row (UN %1): section 173.%2 has no text in cfr49.db").arg(r.at(1), piece));
                 }
             }
+        }
+    }
+
+    // Every material the shipping table lists shows a placard: its own key
+    // in the materials file, or the one dot_placards gives its ID.
+    void checkPlacardKeys(const ReadOnlyDb& npg)
+    {
+        QSet<QString> shipped, placarded;
+        for (const QStringList& r : npg.rows(QStringLiteral("select distinct un_id from hmt")).value_or(QList<QStringList>()))
+            shipped.insert(r.at(0));
+        for (const QStringList& r : npg.rows(QStringLiteral("select un_number from dot_placards where name <> ''")).value_or(QList<QStringList>()))
+            placarded.insert(r.at(0));
+        const QString rel = QStringLiteral("chemicals_2024.csv");
+        const auto text = readText(rel);
+        if (!text || shipped.isEmpty())
+            return;
+        Capped report{ this, rel };
+        int line = 0;
+        for (const QString& l : text->split(QLatin1Char('\n'))) {
+            ++line;
+            const QStringList f = l.split(QLatin1Char('^'));
+            if (f.size() < 7)
+                continue;
+            const QString unId = f.at(3);
+            if (f.at(1).trimmed().isEmpty() && shipped.contains(unId) && !placarded.contains(unId))
+                report.add(line, QStringLiteral("UN %1 has shipping rows but no placard key (field 2 empty, no dot_placards row)").arg(unId));
         }
     }
 

@@ -24,7 +24,7 @@ int cfrCommand(Context& ctx, QStringList args)
     // The regulation text needs no material list: skip loading it.
     QORModel* model = QORModel::sharedInstance();
     const QString html = model->getHTMLTextForCFRSection(section, node);
-    const bool found = html != cfrPage(QString());
+    const bool found = !html.contains(QLatin1String("class=\"not-in-pack\""));
     if (ctx.json) {
         QJsonObject o{ { QStringLiteral("html"), html }, { QStringLiteral("found"), found } };
         o.insert(QStringLiteral("section"), section ? QJsonValue(*section) : QJsonValue(QJsonValue::Null));

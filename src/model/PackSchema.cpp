@@ -25,7 +25,10 @@ const std::vector<DatabaseSchema>& packDatabases()
               { QStringLiteral("npg_guides"),
                 { "id", "name", "cas_no", "formula", "rtec_no", "synonyms", "dot", "niosh_exp_limit", "osha_exp_limit",
                   "idlh", "conversion", "phys_desc", "mw", "bp", "mlt_frz", "sol", "vp", "ip", "rgasd", "spgr", "flp",
-                  "uel", "lel", "mec", "flammability", "incomp", "meas_meth", "icsc" } },
+                  "uel", "lel", "mec", "flammability", "incomp", "meas_meth", "icsc",
+                  // The response cells, read by the protection tab.
+                  "exposure_routes", "symptoms", "target_organs", "cancer_site", "personal_protection", "first_aid",
+                  "respirator" } },
               { QStringLiteral("unid_npgid"), { "un_number", "npgid" } },
               { QStringLiteral("cameo"), { "cameo_id", "name", "cas_no", "un_id", "description", "formula", "health_haz" } },
               { QStringLiteral("wiser_text"), { "un_id", "type", "description" } },
@@ -133,6 +136,16 @@ QString specialProvisionPage(const QString& code)
     if (code.startsWith(QLatin1Char('W')))
         return QStringLiteral("W");
     return QStringLiteral("numeric");
+}
+
+QString regulationNotInPackHtml(const QString& citation)
+{
+    const QString c = citation.toHtmlEscaped();
+    return QStringLiteral("<div class=\"not-in-pack\"><h3>%1</h3>"
+                          "<p>The text of %1 is not in this data pack.</p>"
+                          "<p>To add it, download the section from the eCFR (ecfr.gov) as XML and import it into the "
+                          "pack:</p><p><code>qor-cli import-ecfr FILE.xml ... --output PACK-FOLDER</code></p></div>")
+        .arg(c);
 }
 
 } // namespace qor

@@ -35,4 +35,8 @@ const QStringList& packOtherPages();       // pages beside the information pages
 const QStringList& specialProvisionPages();
 QString specialProvisionPage(const QString& code);
 
+// The HTML a regulation page shows when the pack lacks its text: it names
+// the text ("49 CFR § 173.203") and how to add it, never a blank page.
+QString regulationNotInPackHtml(const QString& citation);
+
 } // namespace qor

@@ -15,6 +15,37 @@ QString npgSql(const QString& columns, const Material& material)
     return QStringLiteral("select %1 from npg_guides, unid_npgid where un_number = %2 and id = npgid").arg(columns, material.unId);
 }
 
+// The pocket guide's response cells, for the protection tab: whole texts,
+// and the protection and first-aid lines ("Skin: ...") under their own keys.
+void addResponseCells(const Database& db, const QString& id, StringMap* map)
+{
+    Statement st(db, QStringLiteral("select exposure_routes, symptoms, target_organs, cancer_site, personal_protection, "
+                                    "first_aid from npg_guides where id = '%1'").arg(sqlQuoted(id)));
+    if (!st.step())
+        return;
+    static const char* const wholeKeys[] = { "exposureRoutes", "symptoms", "targetOrgans", "cancerSite", "personalProtection", "firstAid" };
+    for (int column = 0; column < 6; ++column)
+        if (!st.text(column).isEmpty())
+            map->insert(QLatin1String(wholeKeys[column]), st.text(column));
+    static const QHash<QString, QString> lineKeys = {
+        { "Skin", "skinProtect" }, { "Eyes", "eyeProtect" }, { "Wash skin", "washSkinProtect" }, { "Remove", "removeProtect" },
+        { "Change", "changeProtect" }, { "Provide", "provideProtect" },  // personal protection
+        { "Eye", "eyeFA" }, { "Skin FA", "skinFA" }, { "Breathing", "breathingFA" }, { "Swallow", "swallowFA" },  // first aid
+    };
+    for (int column : { 4, 5 })
+        for (const QString& line : st.text(column).split(QLatin1Char('\n'))) {
+            const qsizetype colon = line.indexOf(QLatin1Char(':'));
+            if (colon <= 0)
+                continue;
+            QString label = line.left(colon).trimmed();
+            if (column == 5 && label == QLatin1String("Skin"))
+                label = QStringLiteral("Skin FA");
+            const QString key = lineKeys.value(label);
+            if (!key.isEmpty())
+                map->insert(key, line.mid(colon + 1).trimmed());
+        }
+}
+
 } // namespace
 
 StringMap QORModel::getNPGCasNumbersForMaterial(Material& material)
@@ -60,6 +91,8 @@ StringMap QORModel::getNPGAttributesForMaterial(Material& material)
             map.insert(QStringLiteral("measmeth"), st.text(26));
             const QString icsc = st.text(27);
             map.insert(QStringLiteral("icsccardno"), icsc);
+
+            addResponseCells(m_npgDb, id, &map);
 
             // The URL is a placeholder: the screen opens the document by type.
             material.otherResources.clear();

@@ -1,6 +1,7 @@
 #include "RegulationText.h"
 
 #include "model/Device.h"
+#include "model/PackSchema.h"
 #include "model/QORModel.h"
 
 #include <QStringList>
@@ -37,6 +38,16 @@ QString QORModel::getHTMLTextForCFRSection(const std::optional<QString>& section
     Statement st(m_cfrDb, QStringLiteral("select node_text, section_name from cfr_text %1").arg(cfrCondition(section, node)));
     while (st.step())
         text += st.text(0);
+    if (text.isEmpty()) {
+        // Packs carry part 173 only when a user imported it: say so, and how.
+        QStringList sections;
+        for (const QString& piece : section.value_or(QString()).split(QLatin1Char(','), Qt::SkipEmptyParts))
+            sections << QStringLiteral("173.") + piece.trimmed();
+        const QString citation = !section ? QStringLiteral("49 CFR %1").arg(node)
+            : sections.size() > 1          ? QStringLiteral("49 CFR §§ %1").arg(sections.join(QStringLiteral(", ")))
+                                           : QStringLiteral("49 CFR § 173.%1").arg(section->trimmed());
+        text = regulationNotInPackHtml(citation);
+    }
     return cfrPage(text);
 }
 

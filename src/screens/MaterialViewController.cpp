@@ -119,7 +119,12 @@ void SummaryTableDelegate::setMaterial(const MaterialPtr& material)
 
 ProtectionTableDelegate::ProtectionTableDelegate(QObject* parent) : QObject(parent)
 {
-    m_labels = { { QStringLiteral("CameoHazardText"), L::tr("Exposure:") }, { QStringLiteral("idlhLimit"), QStringLiteral("IDLH") } };
+    m_labels = { { QStringLiteral("CameoHazardText"), L::tr("Exposure:") }, { QStringLiteral("idlhLimit"), QStringLiteral("IDLH") },
+                 // The pocket guide's response cells.
+                 { QStringLiteral("exposureRoutes"), L::tr("Exposure Routes") }, { QStringLiteral("symptoms"), L::tr("Symptoms") },
+                 { QStringLiteral("targetOrgans"), L::tr("Target Organs") },
+                 { QStringLiteral("personalProtection"), L::tr("Personal Protection") },
+                 { QStringLiteral("firstAid"), L::tr("First Aid") } };
     std::stable_sort(m_labels.begin(), m_labels.end(), [](const auto& a, const auto& b) { return compareNumerically(a.second, b.second) < 0; });
 }
 

@@ -217,6 +217,49 @@ TEST(PackValidator, SpecialProvisionsAndSectionsResolve)
     EXPECT_REPORTS(v, npg, QStringLiteral("section 173.211 has no text"), 2);
 }
 
+TEST(PackValidator, PacksWithoutRegulationTextSaySo)
+{
+    MiniPack pack;
+    // No part 173 text, no section titles, and provision pages that say they
+    // hold no provisions: nothing dangles, so only bad references remain.
+    pack.sql(QStringLiteral("cfr49.db"), QStringLiteral("delete from cfr_text"));
+    pack.sql(QStringLiteral("npg.db"),
+             QStringLiteral("delete from hmt_sections;"
+                            "insert into hmt values ('1203','Gasoline','','3','II','3','N7, TP7','15O','202, 3O2c','247 (h)(4)','','','B','','');"
+                            "insert into hmt values ('2800','Batteries','','8','','8','','159a','159','63(a)','','','','','')"));
+    for (const char* group : { "N", "TP" })
+        pack.writeFile(QString::fromLatin1(group) + QStringLiteral(".html"),
+                       "<body style=\"background-color: #ffb045\"><div class=\"not-in-pack\">not here</div></body>");
+    pack.seal();
+    const auto v = pack.validate();
+    const QString npg = QStringLiteral("npg.db");
+    EXPECT_FALSE(reports(v, npg, QStringLiteral("has no anchor")));
+    EXPECT_FALSE(reports(v, npg, QStringLiteral("has no title")));
+    EXPECT_FALSE(reports(v, npg, QStringLiteral("has no text")));
+    // Letters typed for digits are caught; real section forms pass.
+    EXPECT_REPORTS(v, npg, QStringLiteral("section reference \"15O\" is not a section number"), 2);
+    EXPECT_REPORTS(v, npg, QStringLiteral("section reference \"3O2c\" is not a section number"), 2);
+    EXPECT_FALSE(reports(v, npg, QStringLiteral("\"247(h)(4)\"")));
+    EXPECT_FALSE(reports(v, npg, QStringLiteral("\"159a\"")));
+    EXPECT_FALSE(reports(v, npg, QStringLiteral("\"63(a)\"")));
+}
+
+TEST(PackValidator, ShippedMaterialsHaveAPlacard)
+{
+    MiniPack pack;
+    pack.setMaterials({ "ACETONE^^127^1090^^^", "GASOLINE^^127^1203^^^", "DIESEL^3^127^1202^^^", "UNSHIPPED^^127^9999^^^" });
+    pack.sql(QStringLiteral("npg.db"),
+             QStringLiteral("insert into hmt values ('1203','Gasoline','','3','II','3','','150','202','242','','','','','');"
+                            "insert into hmt values ('1202','Diesel','','3','III','3','','150','203','242','','','','','')"));
+    pack.seal();
+    const auto v = pack.validate();
+    // Acetone's key comes from dot_placards, diesel's from its own field.
+    EXPECT_REPORTS(v, QStringLiteral("chemicals_2024.csv"), QStringLiteral("UN 1203 has shipping rows but no placard key"), 2);
+    EXPECT_FALSE(reports(v, QStringLiteral("chemicals_2024.csv"), QStringLiteral("UN 1090")));
+    EXPECT_FALSE(reports(v, QStringLiteral("chemicals_2024.csv"), QStringLiteral("UN 1202")));
+    EXPECT_FALSE(reports(v, QStringLiteral("chemicals_2024.csv"), QStringLiteral("UN 9999")));
+}
+
 TEST(PackValidator, ManifestChecksums)
 {
     MiniPack pack;

@@ -49,6 +49,25 @@ TEST_F(Chemistry, PocketGuideUsesTheFirstRowAndMapsEveryCasNumber)
     EXPECT_EQ(model().unicodeFormula(QStringLiteral("C6H12O6")), QStringLiteral(u"C\u2086H\u2081\u2082O\u2086"));
 }
 
+TEST_F(Chemistry, PocketGuideResponseCellsForTheProtectionTab)
+{
+    pack.sql("npg.db", "update npg_guides set exposure_routes = 'inhalation, skin', "
+                       "personal_protection = 'Skin: Prevent skin contact' || char(10) || 'Eyes: Prevent eye contact' || char(10) || 'Provide: Eyewash', "
+                       "first_aid = 'Eye: Irrigate immediately' || char(10) || 'Skin: Water flush' || char(10) || 'no label here' "
+                       "where id = '10'");
+    Material m = ammonia();
+    const StringMap npg = model().getNPGAttributesForMaterial(m);
+    EXPECT_EQ(npg.value(QStringLiteral("exposureRoutes")), QStringLiteral("inhalation, skin"));
+    EXPECT_TRUE(npg.value(QStringLiteral("personalProtection")).startsWith(QStringLiteral("Skin: Prevent")));
+    // "Skin:" means protection in one cell and first aid in the other.
+    EXPECT_EQ(m.protectionProperties(), (StringMap{ { "skinProtect", "Prevent skin contact" },
+                                                    { "eyeProtect", "Prevent eye contact" },
+                                                    { "provideProtect", "Eyewash" } }));
+    EXPECT_EQ(m.firstAidProperties(), (StringMap{ { "eyeFA", "Irrigate immediately" }, { "skinFA", "Water flush" } }));
+    // Empty cells give no key, so the tab shows no empty row.
+    EXPECT_FALSE(npg.contains(QStringLiteral("symptoms")));
+}
+
 TEST_F(Chemistry, EmptyResultsAreCachedAndLeaveTheMaterialAlone)
 {
     Material m = material(QStringLiteral("9999"), QStringLiteral("Nothing"));

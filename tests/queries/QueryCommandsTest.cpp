@@ -44,6 +44,7 @@ TEST_F(QueryCommands, MaterialCfrAndProvision)
     EXPECT_EQ(run({ "cfr", "304" }), 0);
     EXPECT_TRUE(out.contains(QStringLiteral("<body> <p>304</p> </body>")));
     EXPECT_EQ(run({ "cfr", "305" }), 1);
+    EXPECT_TRUE(out.contains(QStringLiteral("49 CFR § 173.305 is not in this data pack")));
     EXPECT_EQ(run({ "cfr", "304", "--node", "n1" }), 2);
     EXPECT_EQ(run({ "provision", "TP7" }), 0);
     EXPECT_EQ(out, QStringLiteral("TP\nIM and UN Specification Portable Tanks\nPortable Tanks\n"));

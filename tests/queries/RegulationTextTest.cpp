@@ -36,7 +36,13 @@ TEST_F(RegulationText, SectionListAndNodeConditions)
     // Pieces are not trimmed: " 204" names no section.
     EXPECT_EQ(page(QStringLiteral("203, 204")), head + QStringLiteral("<p>203a</p><p>203b</p> </body></html>"));
     EXPECT_EQ(page(std::nullopt, QStringLiteral("n2")), head + QStringLiteral("<p>204</p> </body></html>"));
-    EXPECT_EQ(page(QStringLiteral("2'03")), head + QStringLiteral(" </body></html>"));
+    // A text the pack lacks gives a page that names it and how to import it, never a blank one.
+    const QString missing = page(QStringLiteral("2'03"));
+    EXPECT_TRUE(missing.startsWith(head));
+    EXPECT_TRUE(missing.contains(QStringLiteral("The text of 49 CFR § 173.2'03 is not in this data pack."))) << missing.toStdString();
+    EXPECT_TRUE(missing.contains(QStringLiteral("qor-cli import-ecfr FILE.xml")));
+    EXPECT_TRUE(page(QStringLiteral("301,302")).contains(QStringLiteral("49 CFR §§ 173.301, 173.302 is not")));
+    EXPECT_TRUE(page(std::nullopt, QStringLiteral("n9")).contains(QStringLiteral("49 CFR n9 is not")));
 
     Device::setTablet(true);
     EXPECT_TRUE(page(QStringLiteral("204")).startsWith(QStringLiteral("<html><head><meta name = 'viewport' content = 'width = 500'>   <meta")));

@@ -50,7 +50,7 @@ bool PackBuilder::run()
         return fail(m_output, QStringLiteral("cannot clear the output folder"));
     if (!QDir().mkpath(m_output))
         return fail(m_output, QStringLiteral("cannot create the output folder"));
-    return readPackInfo() && copyPlainFiles() && importGuidebook() && buildDatabases() && buildGuidePages() && buildInfoPages()
+    return readPackInfo() && readOfficialSources() && copyPlainFiles() && importGuidebook() && buildDatabases() && buildGuidePages() && buildInfoPages()
         && buildProvisionPages() && buildArtwork() && writeManifest();
 }
 
@@ -110,6 +110,49 @@ bool PackBuilder::readPackInfo()
     return readText(src(QStringLiteral("src/page.html")), &m_pageTemplate);
 }
 
+bool PackBuilder::readOfficialSources()
+{
+    // Official values reach the pack only through the importers.
+    const QString cfrDir = src(QStringLiteral("official/cfr49"));
+    for (const QString& name : filesIn(cfrDir, QStringLiteral(".xml"))) {
+        QString why;
+        const auto section = import::readEcfrSection(cfrDir + QLatin1Char('/') + name, &why);
+        if (!section)
+            return fail(cfrDir + QLatin1Char('/') + name, why.section(QStringLiteral(": "), 1));
+        m_shipping.add(*section);
+    }
+    m_officialTables = m_shipping.tables();
+    const QString npgDir = src(QStringLiteral("official/niosh-npg"));
+    for (const QString& name : filesIn(npgDir, QStringLiteral(".tar.xz"))) {
+        QString why;
+        const auto guide = import::readNpg(npgDir + QLatin1Char('/') + name, &why);
+        if (!guide)
+            return fail(npgDir + QLatin1Char('/') + name, why);
+        const import::ImportTables t = guide->tables();
+        for (auto it = t.cbegin(); it != t.cend(); ++it)
+            m_officialTables[it.key()] += it.value();
+    }
+    return true;
+}
+
+QString PackBuilder::withPlacardKeys(const QString& materials) const
+{
+    // Field 1 (the placard key) follows the shipping table's class wherever
+    // the table lists the ID; field 4 is the inhalation-hazard mark.
+    QStringList lines = materials.split(QLatin1Char('\n'));
+    for (QString& line : lines) {
+        QStringList f = line.split(QLatin1Char('^'));
+        if (f.size() < 7)
+            continue;
+        const QString key = m_shipping.placardKey(f.at(3), !f.at(4).isEmpty());
+        if (key.isEmpty() || key == f.at(1))
+            continue;
+        f[1] = key;
+        line = f.join(QLatin1Char('^'));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
 bool PackBuilder::copyPlainFiles()
 {
     // Everything outside src/ is a resource as it stands.
@@ -148,7 +191,9 @@ bool PackBuilder::importGuidebook()
         return fail(dir, QStringLiteral("the index highlight and Table 1 disagree: %1").arg(mismatches.mid(0, 5).join(QStringLiteral("; "))));
     m_isoDistancesSql = import::isoDistancesSql(*tables);
     m_largeSpillSql = import::largeSpillSql(*tables);
-    return writeBytes(QStringLiteral("chemicals_2024.csv"), (import::materialsLines(*tables).join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8());
+    // The placard key follows the shipping table's class for the ID.
+    const QString materials = import::materialsLines(*tables).join(QLatin1Char('\n')) + QLatin1Char('\n');
+    return writeBytes(QStringLiteral("chemicals_2024.csv"), withPlacardKeys(materials).toUtf8());
 }
 
 bool PackBuilder::runSqlFile(sqlite3* db, const QString& path)
@@ -208,7 +253,13 @@ bool PackBuilder::buildDatabases()
             if (!ok)
                 fail(dir, why);
         }
-        // Table rows: the imported guidebook tables, then src/<database file name>/*.sql in name order.
+        if (ok) {
+            QString why;
+            ok = import::writeImportTables(db, m_officialTables, &why);
+            if (!ok)
+                fail(path, why);
+        }
+        // Then the guidebook tables, then src/<database file name>/*.sql in name order.
         const QString sqlDir = src(QStringLiteral("src/") + schema.fileName);
         if (ok)
             ok = exec(QStringLiteral("begin"));
@@ -320,28 +371,17 @@ bool PackBuilder::buildProvisionPages()
         { QStringLiteral("T"), QStringLiteral("UN Portable Tanks") },
         { QStringLiteral("numeric"), QStringLiteral("Numeric Provisions") },
     };
-    const QString path = src(QStringLiteral("src/provisions.csv"));
-    QString csv;
-    if (!readText(path, &csv))
-        return false;
+    // From an imported § 172.102; without it every page says so.
     QHash<QString, QString> bodies;
-    int lineNumber = 0;
-    for (const QString& line : csv.split(QLatin1Char('\n'))) {
-        ++lineNumber;
-        if (line.trimmed().isEmpty())
-            continue;
-        const qsizetype caret = line.indexOf(QLatin1Char('^'));
-        const QString code = line.left(caret).trimmed();
-        if (caret <= 0 || code.contains(QLatin1Char(' ')))
-            return fail(path + QLatin1Char(':') + QString::number(lineNumber), QStringLiteral("expected CODE^TEXT"));
-        // The page jumps to a provision by "#CODE", so both anchor forms are given.
-        bodies[specialProvisionPage(code)] += QStringLiteral("<div class=\"provision\" id=\"%1\"><a name=\"%1\"></a>\n<h3>%1</h3>\n<p>%2</p>\n</div>\n")
-                                                  .arg(code, line.mid(caret + 1).trimmed().toHtmlEscaped());
-    }
+    for (const import::SpecialProvision& p : m_shipping.provisions())
+        bodies[specialProvisionPage(p.code)] += p.anchoredHtml();
+    const QString missing = m_shipping.provisions().isEmpty()
+        ? regulationNotInPackHtml(QStringLiteral("49 CFR § 172.102 (special provisions)"))
+        : QStringLiteral("<p>No provisions of this group are in § 172.102 as imported.</p>\n");
     for (const QString& page : specialProvisionPages()) {
         const QString title = QStringLiteral("Special Provisions: %1").arg(titles.value(page));
-        const QString body = QStringLiteral("<h1>%1</h1>\n%2").arg(title, bodies.value(page, QStringLiteral("<p>No provisions of this group are used in this pack.</p>\n")));
-        if (!writePage(page, title, body, path))
+        const QString body = QStringLiteral("<h1>%1</h1>\n%2").arg(title, bodies.value(page, missing));
+        if (!writePage(page, title, body, src(QStringLiteral("official/cfr49"))))
             return false;
     }
     return true;

@@ -1,6 +1,9 @@
 #pragma once
 // Turns the pack sources (resources/) into the data pack the app reads.
 // Every step is deterministic: no clock, no random numbers, sorted inputs.
+#include "import/EcfrImport.h"
+#include "import/NpgImport.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -17,9 +20,16 @@ public:
     bool run();
     QString error() const { return m_error; }
 
+    // The shipping data read from the official sections (after run()). Its
+    // placardKey(unId, inhalationHazard) gives the placard field of a
+    // materials-file line.
+    const import::ShippingData& shipping() const { return m_shipping; }
+
 private:
     bool readPackInfo();
     bool importGuidebook();
+    bool readOfficialSources();
+    QString withPlacardKeys(const QString& materials) const;
     bool copyPlainFiles();
     bool buildDatabases();
     bool buildGuidePages();
@@ -51,6 +61,8 @@ private:
     QStringList m_sources;
     QString m_isoDistancesSql;   // Table 1 rows for npg.db
     QString m_largeSpillSql;     // Table 3 rows for npg.db
+    import::ShippingData m_shipping;
+    import::ImportTables m_officialTables;
 };
 
 } // namespace qor::packbuild

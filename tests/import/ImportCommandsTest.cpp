@@ -1,0 +1,154 @@
+// qor-cli import-ecfr / import-npg / material on the official files, in-process.
+#include "Cli.h"
+
+#include "model/QORModel.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+using namespace qor;
+
+namespace {
+
+const QString kOfficial = QStringLiteral(QOR_OFFICIAL_DIR);
+
+struct CliRun {
+    int code = -1;
+    QString out, err;
+};
+
+CliRun runCli(const QStringList& args)
+{
+    delete QORModel::sharedInstance(false);
+    CliRun r;
+    QTextStream o(&r.out), e(&r.err);
+    r.code = cli::run(args, o, e);
+    o.flush();
+    e.flush();
+    delete QORModel::sharedInstance(false);
+    return r;
+}
+
+QStringList column(const QString& db, const QString& sql)
+{
+    QStringList out;
+    sqlite3* h = nullptr;
+    sqlite3_stmt* st = nullptr;
+    if (sqlite3_open_v2(QFile::encodeName(db).constData(), &h, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK
+        && sqlite3_prepare_v2(h, sql.toUtf8().constData(), -1, &st, nullptr) == SQLITE_OK)
+        while (sqlite3_step(st) == SQLITE_ROW)
+            out << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
+    sqlite3_finalize(st);
+    sqlite3_close(h);
+    return out;
+}
+
+} // namespace
+
+TEST(ImportCommands, EcfrAndPocketGuideIntoAFreshFolder)
+{
+    QTemporaryDir dir;
+    const CliRun ecfr = runCli({ "import-ecfr", "--output", dir.path(), kOfficial + "/cfr49/ecfr-section-172.101.xml",
+                           kOfficial + "/cfr49/ecfr-section-172.504.xml" });
+    ASSERT_EQ(ecfr.code, 0) << ecfr.err.toStdString();
+    EXPECT_TRUE(ecfr.out.contains(QStringLiteral("hmt: 3002 rows")));
+    const QString npgDb = dir.filePath(QStringLiteral("npg.db"));
+    EXPECT_EQ(column(npgDb, "select non_bulk || '/' || bulk from hmt where un_id = '1089'"), QStringList{ "201/243" });
+    EXPECT_EQ(column(npgDb, "select name from dot_placards where un_number = '1017'"), QStringList{ "2.3" });
+    // Sections without special provisions leave the provision pages alone.
+    EXPECT_FALSE(QFile::exists(dir.filePath(QStringLiteral("A.html"))));
+
+    const CliRun npg = runCli({ "--json", "import-npg", "--output", dir.path(), kOfficial + "/niosh-npg/npg-html-2015.tar.xz" });
+    ASSERT_EQ(npg.code, 0) << npg.err.toStdString();
+    EXPECT_EQ(QJsonDocument::fromJson(npg.out.toUtf8()).object().value("chemicals").toInt(), 677);
+    EXPECT_EQ(column(npgDb, "select count(*) from npg_guides"), QStringList{ "677" });
+    // The shipping rows are still there: an import replaces only its own tables.
+    EXPECT_EQ(column(npgDb, "select count(*) from hmt"), QStringList{ "3002" });
+}
+
+TEST(ImportCommands, ProvisionsAndPackagingTextsBecomePages)
+{
+    QTemporaryDir dir;
+    const QString provisions = dir.filePath(QStringLiteral("172.102.xml")), part173 = dir.filePath(QStringLiteral("173.203.xml"));
+    QFile p(provisions), s(part173);
+    ASSERT_TRUE(p.open(QIODevice::WriteOnly) && s.open(QIODevice::WriteOnly));
+    p.write("<DIV8 N=\"172.102\" TYPE=\"SECTION\"><HEAD>Special provisions.</HEAD><P>(a) General.</P>"
+            "<P>TP2 The maximum degree of filling must not exceed the degree of filling prescribed.</P></DIV8>");
+    s.write("<DIV8 N=\"173.203\" TYPE=\"SECTION\"><HEAD>§ 173.203 Non-bulk packagings for liquid hazardous materials in "
+            "Packing Group III.</HEAD><P>(a) Authorized packagings.</P></DIV8>");
+    p.close();
+    s.close();
+    const QString out = dir.filePath(QStringLiteral("pack"));
+    ASSERT_EQ(runCli({ "import-ecfr", "--output", out, provisions, part173 }).code, 0);
+    QFile page(out + QStringLiteral("/TP.html"));
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    const QString html = QString::fromUtf8(page.readAll());
+    EXPECT_TRUE(html.contains(QStringLiteral("<a name=\"TP2\"></a>")));
+    EXPECT_TRUE(html.contains(QStringLiteral("body style=\"background-color: #ffb045\">")));
+    const QString cfr = out + QStringLiteral("/cfr49.db");
+    EXPECT_EQ(column(cfr, "select distinct section_id from cfr_text"), QStringList{ "173.203" });
+    EXPECT_EQ(column(out + QStringLiteral("/npg.db"), "select section_id || ' ' || title from hmt_sections"),
+              QStringList{ "203 Non-bulk packagings for liquid hazardous materials in Packing Group III" });
+}
+
+TEST(ImportCommands, BadFilesWriteNothing)
+{
+    QTemporaryDir dir;
+    QFile bad(dir.filePath(QStringLiteral("bad.xml")));
+    ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
+    bad.write("<DIV8 N=\"173.1\" TYPE=\"SECTION\"><P>unclosed");
+    bad.close();
+    const QString out = dir.filePath(QStringLiteral("pack"));
+    // The good file comes first: it must not be written either.
+    const CliRun r = runCli({ "import-ecfr", "--output", out, kOfficial + "/cfr49/ecfr-section-172.504.xml", bad.fileName() });
+    EXPECT_EQ(r.code, 1);
+    EXPECT_TRUE(r.err.contains(bad.fileName() + QStringLiteral(": line "))) << r.err.toStdString();
+    EXPECT_TRUE(QDir(out).isEmpty());
+    EXPECT_EQ(runCli({ "import-npg", "--output", out, dir.path() }).code, 1);
+    EXPECT_EQ(runCli({ "import-ecfr" }).code, 2);
+    EXPECT_EQ(runCli({ "import-npg", "a", "b" }).code, 2);
+}
+
+TEST(ImportCommands, BundledPackShowsTheShippingTable)
+{
+    const QString pack = qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
+    const CliRun r = runCli({ "--resources", pack, "--json", "material", "1089" });
+    ASSERT_EQ(r.code, 0) << r.err.toStdString();
+    const QJsonObject m = QJsonDocument::fromJson(r.out.toUtf8()).array().first().toObject();
+    EXPECT_EQ(m.value("class").toString(), QStringLiteral("3"));
+    const QJsonArray entries = m.value("hmtEntries").toArray();
+    ASSERT_EQ(entries.size(), 1);
+    const QJsonObject e = entries.first().toObject();
+    EXPECT_EQ(e.value("packingGroup").toString(), QStringLiteral("I Great Danger"));
+    EXPECT_EQ(e.value("nonBulk").toString(), QStringLiteral("201"));
+    EXPECT_EQ(e.value("bulk").toString(), QStringLiteral("243"));
+    EXPECT_EQ(m.value("hmtAttributes").toObject().value("bulk").toString(), QStringLiteral("243"));
+    // Tapping the packaging section opens a page that says how to get its text.
+    const CliRun cfr = runCli({ "--resources", pack, "cfr", "201" });
+    EXPECT_EQ(cfr.code, 1);
+    EXPECT_TRUE(cfr.out.contains(QStringLiteral("49 CFR § 173.201 is not in this data pack")));
+}
+
+TEST(ImportCommands, BundledMaterialsTakeTheirPlacardFromTheTable)
+{
+    const QString pack = qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
+    QFile file(pack + QStringLiteral("/chemicals_2024.csv"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QHash<QString, QSet<QString>> keys;  // UN number -> placard keys of its lines
+    for (const QString& line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'))) {
+        const QStringList f = line.split(QLatin1Char('^'));
+        if (f.size() >= 7)
+            keys[f[3]].insert(f[1]);
+    }
+    EXPECT_EQ(keys.value("1089"), QSet<QString>{ "3" });
+    EXPECT_EQ(keys.value("1017"), QSet<QString>{ "2.3" });      // poison gas
+    EXPECT_EQ(keys.value("1051"), QSet<QString>{ "6.1-tih" });  // 6.1, poisonous by inhalation
+    EXPECT_EQ(keys.value("0004"), QSet<QString>{ "1.1" });      // 1.1D without its group
+}
