@@ -1,6 +1,8 @@
 #pragma once
 // Turns the pack sources (resources/) into the data pack the app reads.
 // Every step is deterministic: no clock, no random numbers, sorted inputs.
+#include "model/PackManifest.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -20,7 +22,10 @@ public:
 private:
     bool readPackInfo();
     bool copyPlainFiles();
+    bool hashSources();
     bool buildDatabases();
+    // Every table declared, none with rows but no source; decides "sample".
+    bool checkProvenance();
     bool buildGuidePages();
     bool buildInfoPages();
     bool buildProvisionPages();
@@ -46,8 +51,8 @@ private:
     QHash<QString, QString> m_packValues;  // edition, buildDate, notice
     QString m_edition;
     QString m_buildDate;
-    bool m_sample = true;
-    QStringList m_sources;
+    bool m_declaredSample = false;
+    PackManifest m_manifest;  // sources and tables as declared, then checked
 };
 
 } // namespace qor::packbuild

@@ -1,0 +1,62 @@
+// The manifest of the pack the app is reading, and the source lines and
+// marks screens derive from it. Not part of the pack builder.
+#include "PackManifest.h"
+#include "Resources.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QMutex>
+
+namespace qor {
+
+std::shared_ptr<const PackManifest> PackManifest::active(QString* error)
+{
+    // Screens ask for every section they build; reading and parsing the
+    // manifest each time would cost more than the lookups themselves.
+    static QMutex mutex;
+    static QString cachedKey;
+    static std::shared_ptr<const PackManifest> cached;
+    static QString cachedError;
+    const QString dir = Resources::dir();
+    const QFileInfo info(QDir(dir).filePath(QString::fromLatin1(kFileName)));
+    const QString key = QStringLiteral("%1|%2|%3").arg(info.absoluteFilePath()).arg(info.exists() ? info.size() : -1)
+                            .arg(info.exists() ? info.lastModified().toMSecsSinceEpoch() : 0);
+    QMutexLocker lock(&mutex);
+    if (key != cachedKey) {
+        cachedKey = key;
+        cachedError.clear();
+        auto manifest = read(dir, &cachedError);
+        cached = manifest ? std::make_shared<const PackManifest>(std::move(*manifest)) : nullptr;
+    }
+    if (error)
+        *error = cachedError;
+    return cached;
+}
+
+QString PackManifest::activeNotice()
+{
+    const auto manifest = active();
+    if (!manifest)
+        return unverifiedNotice();
+    return manifest->sample ? sampleNotice() : QString();
+}
+
+QString PackManifest::sourceLine(const QString& table)
+{
+    const auto manifest = active();
+    if (!manifest)
+        return L::tr("Source: unknown (unverified data pack)");
+    const QString citation = manifest->citation(table);
+    if (citation.isEmpty())
+        return L::tr("Source: not recorded in this data pack");
+    return L::tr("Source: %1").arg(citation);
+}
+
+QString PackManifest::activePartialNote(const QString& table)
+{
+    const auto manifest = active();
+    return manifest ? manifest->partialNote(table) : QString();
+}
+
+} // namespace qor
