@@ -42,15 +42,32 @@ QString PackManifest::activeNotice()
     return manifest->sample ? sampleNotice() : QString();
 }
 
-QString PackManifest::sourceLine(const QString& table)
+QString PackManifest::sourceLine(const QStringList& tables)
 {
     const auto manifest = active();
     if (!manifest)
         return L::tr("Source: unknown (unverified data pack)");
-    const QString citation = manifest->citation(table);
-    if (citation.isEmpty())
+    QStringList citations;
+    const auto add = [&](const QString& citation) {
+        if (!citation.isEmpty() && !citations.contains(citation))
+            citations << citation;
+    };
+    // Citations are gathered source by source, so tables sharing a source name it once.
+    for (const QString& table : tables) {
+        const PackTable t = manifest->tables.value(table);
+        if (t.sources.isEmpty())
+            continue;
+        if (!t.citation.isEmpty()) {
+            add(t.citation);
+            continue;
+        }
+        for (const QString& id : t.sources)
+            if (const PackSource* s = manifest->source(id))
+                add(s->citation.isEmpty() ? s->title : s->citation);
+    }
+    if (citations.isEmpty())
         return L::tr("Source: not recorded in this data pack");
-    return L::tr("Source: %1").arg(citation);
+    return L::tr("Source: %1").arg(citations.join(QStringLiteral("; ")));
 }
 
 QString PackManifest::activePartialNote(const QString& table)

@@ -82,9 +82,10 @@ struct PackManifest {
     // The mark screens show over reference values of the active pack: the
     // sample or unverified notice, or empty for a verified official pack.
     static QString activeNotice();
-    // "Source: ERG 2024, Table 1" for a table of the active pack; for a pack
+    // "Source: ERG 2024, Table 1" for the tables a screen section shows
+    // values of (tables without a declared source add nothing); for a pack
     // without a usable pack.json, a line that says the source is unknown.
-    static QString sourceLine(const QString& table);
+    static QString sourceLine(const QStringList& tables);
     // The partial-extract note of a table of the active pack, or empty.
     static QString activePartialNote(const QString& table);
 };

@@ -35,7 +35,37 @@ FixturePack::FixturePack()
     }
     setMaterials({});
     setGuides({});
+    writeManifest();
     activate();
+}
+
+PackManifest FixturePack::fixtureManifest()
+{
+    PackManifest m;
+    m.edition = QStringLiteral("test pack");
+    m.buildDate = QStringLiteral("2025-01-01");
+    m.sample = true;
+    PackSource source;
+    source.id = QStringLiteral("fixture");
+    source.title = QStringLiteral("Test fixture content");
+    source.citation = QStringLiteral("Test fixture");
+    source.sample = true;
+    m.sourceList << source;
+    m.sources << source.displayLine();
+    PackTable table;
+    table.sources << source.id;
+    for (const auto& db : packDatabases())
+        for (const auto& t : db.tables)
+            m.tables.insert(t.name, table);
+    for (const QString& content : packTextContents())
+        m.tables.insert(content, table);
+    return m;
+}
+
+void FixturePack::writeManifest()
+{
+    PackManifest m = fixtureManifest();
+    ASSERT_TRUE(m.writeWithChecksums(dir()));
 }
 
 FixturePack::~FixturePack()
