@@ -461,9 +461,11 @@ private:
                 if (section.isEmpty() || section == QLatin1String("None"))
                     continue;
                 for (const QString& piece : section.split(QLatin1Char(','))) {
-                    if (!titled.contains(piece))
+                    // A pack without any titles or section texts (none from an
+                    // official source) shows the "not in this data pack" page instead.
+                    if (!titled.isEmpty() && !titled.contains(piece))
                         report.add(r.at(0).toInt(), QStringLiteral("hmt row (UN %1): section %2 has no title in hmt_sections").arg(r.at(1), piece));
-                    if (!texts.contains(QStringLiteral("173.") + piece))
+                    if (!texts.isEmpty() && !texts.contains(QStringLiteral("173.") + piece))
                         report.add(r.at(0).toInt(), QStringLiteral("hmt row (UN %1): section 173.%2 has no text in cfr49.db").arg(r.at(1), piece));
                 }
             }
