@@ -48,9 +48,11 @@ QString PackManifest::sourceLine(const QStringList& tables)
     if (!manifest)
         return L::tr("Source: unknown (unverified data pack)");
     QStringList citations;
+    // pack.json spells out joined citations too ("A; B"): each part once.
     const auto add = [&](const QString& citation) {
-        if (!citation.isEmpty() && !citations.contains(citation))
-            citations << citation;
+        for (const QString& part : citation.split(QStringLiteral("; "), Qt::SkipEmptyParts))
+            if (!citations.contains(part))
+                citations << part;
     };
     // Citations are gathered source by source, so tables sharing a source name it once.
     for (const QString& table : tables) {

@@ -43,6 +43,9 @@ PackManifest officialManifest()
     m.tables.insert(QStringLiteral("guides"), guides);
     m.tables.insert(QStringLiteral("incidents"), incidents);
     m.tables.insert(QStringLiteral("nfpa"), PackTable());
+    PackTable both;
+    both.sources << erg.id << reports.id;
+    m.tables.insert(QStringLiteral("materials"), both);
     return m;
 }
 
@@ -132,6 +135,8 @@ TEST(PackManifest, ActivePackMarksAndSourceLines)
     EXPECT_EQ(PackManifest::sourceLine({ QStringLiteral("guides"), QStringLiteral("nfpa"), QStringLiteral("guides"), QStringLiteral("incidents") }),
               "Source: ERG 2024; DOT 5800.1");
     EXPECT_EQ(PackManifest::sourceLine({ QStringLiteral("nfpa") }), "Source: not recorded in this data pack");
+    // pack.json stores the joined citation of a two-source table; still each source once.
+    EXPECT_EQ(PackManifest::sourceLine({ QStringLiteral("materials"), QStringLiteral("guides") }), "Source: ERG 2024; DOT 5800.1");
     EXPECT_EQ(PackManifest::activePartialNote(QStringLiteral("incidents")), "From a partial extract of DOT 5800.1 reports, Aug 2024 to Jul 2025");
 
     // Rewritten in place: the cached manifest must not outlive the file.
