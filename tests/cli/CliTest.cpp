@@ -120,13 +120,7 @@ TEST_F(Cli, MaterialNamesItsSourcesAndKeepsItsKeys)
 {
     // Incidents from a partial extract, everything else sample content.
     PackManifest m = FixturePack::fixtureManifest();
-    PackSource reports;
-    reports.id = QStringLiteral("dot5800");
-    reports.title = QStringLiteral("Incident reports");
-    reports.citation = QStringLiteral("DOT 5800.1");
-    reports.partial = true;
-    reports.periodFrom = QStringLiteral("2024-08");
-    reports.periodTo = QStringLiteral("2025-07");
+    const PackSource reports = FixturePack::partialReportsSource();
     m.sourceList << reports;
     m.tables[QStringLiteral("incidents")].sources = QStringList{ reports.id };
     m.tables[QStringLiteral("nfpa")].sources.clear();

@@ -62,6 +62,19 @@ PackManifest FixturePack::fixtureManifest()
     return m;
 }
 
+PackSource FixturePack::partialReportsSource()
+{
+    PackSource s;
+    s.id = QStringLiteral("dot5800");
+    s.title = QStringLiteral("Incident reports");
+    s.citation = QStringLiteral("DOT 5800.1");
+    s.partial = true;
+    s.periodFrom = QStringLiteral("2024-08");
+    s.periodTo = QStringLiteral("2025-07");
+    s.files.insert(QStringLiteral("src/incidents/2024-08.csv"), QString(64, QLatin1Char('b')));
+    return s;
+}
+
 void FixturePack::writeManifest()
 {
     PackManifest m = fixtureManifest();

@@ -23,13 +23,7 @@ PackManifest officialManifest()
     erg.edition = QStringLiteral("2024");
     erg.citation = QStringLiteral("ERG 2024");
     erg.files.insert(QStringLiteral("official/erg2024/TIH_Table1.pdf"), QString(64, QLatin1Char('a')));
-    PackSource reports;
-    reports.id = QStringLiteral("dot5800");
-    reports.title = QStringLiteral("Incident reports");
-    reports.citation = QStringLiteral("DOT 5800.1");
-    reports.partial = true;
-    reports.periodFrom = QStringLiteral("2024-08");
-    reports.periodTo = QStringLiteral("2025-07");
+    const PackSource reports = FixturePack::partialReportsSource();
     m.sourceList << erg << reports;
     PackTable iso;
     iso.sources << erg.id;

@@ -73,12 +73,7 @@ void writeOfficialManifest(FixturePack& pack)
     PackSource erg = cfr;
     erg.id = QStringLiteral("erg");
     erg.citation = QStringLiteral("ERG 2024");
-    PackSource reports = cfr;
-    reports.id = QStringLiteral("dot5800");
-    reports.citation = QStringLiteral("DOT 5800.1");
-    reports.partial = true;
-    reports.periodFrom = QStringLiteral("2024-08");
-    reports.periodTo = QStringLiteral("2025-07");
+    const PackSource reports = FixturePack::partialReportsSource();
     m.sourceList << cfr << erg << reports;
     for (const char* t : { "hmt", "dot_classes", "dot_placards", "vessel_stowage", "placards" })
         m.tables[QLatin1String(t)].sources << cfr.id;
