@@ -3,6 +3,7 @@
 // sections that disappear rather than stand empty when a table has no rows.
 #include "FixturePack.h"
 
+#include "AboutController.h"
 #include "AppLinks.h"
 #include "GuideControllers.h"
 #include "IsolationTableDelegate.h"
@@ -116,11 +117,13 @@ TEST_F(ProvenanceTest, PackMarksFollowPackJson)
     PackStatus status;
     EXPECT_TRUE(status.sample()) << "fixture packs declare sample content";
     EXPECT_EQ(status.notice(), PackManifest::sampleNotice());
+    EXPECT_EQ(AboutController().sampleText(), PackManifest::sampleNotice());
 
     writeOfficialManifest(pack);
     EXPECT_FALSE(status.sample());
     EXPECT_TRUE(status.verified());
     EXPECT_EQ(status.notice(), "") << "no mark on an official pack";
+    EXPECT_EQ(AboutController().sampleText(), "Reference data");
     const QVariantList sources = status.sources();
     ASSERT_EQ(sources.size(), 3);
     EXPECT_EQ(sources.at(2).toMap().value("tables").toStringList(), QStringList({ "incidents" }));
@@ -128,6 +131,7 @@ TEST_F(ProvenanceTest, PackMarksFollowPackJson)
     QFile::remove(pack.path("pack.json"));
     EXPECT_FALSE(status.verified());
     EXPECT_EQ(status.notice(), PackManifest::unverifiedNotice());
+    EXPECT_EQ(AboutController().sampleText(), PackManifest::unverifiedNotice());
     EXPECT_TRUE(status.problem().startsWith("pack.json: cannot read")) << status.problem().toStdString();
     EXPECT_TRUE(status.sources().isEmpty());
 

@@ -66,7 +66,7 @@ Page {
                     Label { text: qsTr("Date"); color: "#cccccc" }
                     Label { text: about.buildDate; color: "white" }
                     Label { text: qsTr("Data"); color: "#cccccc" }
-                    Label { text: about.sampleText; color: about.sample ? "#ffb045" : "white"; Layout.fillWidth: true; wrapMode: Text.Wrap }
+                    Label { text: about.sampleText; color: PackStatus.notice.length > 0 ? "#ffb045" : "white"; Layout.fillWidth: true; wrapMode: Text.Wrap }
                     Label { text: qsTr("Files"); color: "#cccccc" }
                     Label {
                         objectName: "packChecksums"
