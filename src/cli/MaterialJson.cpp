@@ -1,6 +1,7 @@
 #include "MaterialJson.h"
 
 #include "history/HistoryManager.h"
+#include "model/PackManifest.h"
 #include "model/QORModel.h"
 
 #include <QJsonArray>
@@ -82,6 +83,26 @@ QJsonObject materialJson(QORModel& model, Material& m)
     o.insert(QStringLiteral("hmtEntries"), entries);
     o.insert(QStringLiteral("hmtAttributes"), stringMapJson(model.getHmtAttributesForMaterial(m)));
     o.insert(QStringLiteral("placardName"), model.placardNameForMaterial(m));
+
+    // Where each group of values above comes from, as the screens say it.
+    const auto line = [](std::initializer_list<const char*> tables) {
+        QStringList names;
+        for (const char* t : tables)
+            names << QLatin1String(t);
+        return PackManifest::sourceLine(names);
+    };
+    o.insert(QStringLiteral("sources"),
+             QJsonObject{ { QStringLiteral("material"), line({ "materials", "guides" }) },
+                          { QStringLiteral("class"), line({ "dot_classes", "hmt" }) },
+                          { QStringLiteral("isolation"), line({ "iso_distances" }) },
+                          { QStringLiteral("incidents"), line({ "incidents" }) },
+                          { QStringLiteral("chemistry"), line({ "npg_guides", "unid_npgid", "cameo", "wiser_text" }) },
+                          { QStringLiteral("ghs"), line({ "ghs" }) },
+                          { QStringLiteral("nfpa"), line({ "nfpa" }) },
+                          { QStringLiteral("shipping"), line({ "hmt", "vessel_stowage", "hmt_sections" }) },
+                          { QStringLiteral("placard"), line({ "dot_placards", "placards" }) } });
+    o.insert(QStringLiteral("incidentsNote"), PackManifest::activePartialNote(QStringLiteral("incidents")));
+    o.insert(QStringLiteral("packNotice"), PackManifest::activeNotice());
     return o;
 }
 

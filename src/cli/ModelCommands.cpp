@@ -15,6 +15,8 @@ namespace {
 
 void printMaterialText(QTextStream& out, const QJsonObject& o)
 {
+    const QJsonObject sources = o.value(QStringLiteral("sources")).toObject();
+    const auto source = [&](const char* group) { out << "    " << sources.value(QLatin1String(group)).toString() << "\n"; };
     out << o.value(QStringLiteral("name")).toString() << "  UN" << o.value(QStringLiteral("unId")).toString() << "\n";
     const QJsonObject guide = o.value(QStringLiteral("guide")).toObject();
     out << "  Guide " << o.value(QStringLiteral("guideId")).toString()
@@ -30,7 +32,13 @@ void printMaterialText(QTextStream& out, const QJsonObject& o)
         if (v.isString())
             out << "  " << key << ": " << v.toString() << "\n";
     }
+    source("material");
+    if (!cls.isEmpty())
+        source("class");
     out << "  Incidents (12 months): " << o.value(QStringLiteral("numIncidents")).toInt() << "\n";
+    const QString incidentsNote = o.value(QStringLiteral("incidentsNote")).toString();
+    if (!incidentsNote.isEmpty())
+        out << "    " << incidentsNote << "\n";
     const QJsonObject iso = o.value(QStringLiteral("isolationDistances")).toObject();
     for (const QJsonValue& key : o.value(QStringLiteral("isolationConditions")).toArray()) {
         const QJsonObject r = iso.value(key.toString()).toObject();
@@ -58,25 +66,36 @@ void printMaterialText(QTextStream& out, const QJsonObject& o)
             << "; day low/moderate/high wind " << pair(2, "km", "mi") << ", " << pair(4, "km", "mi") << ", " << pair(6, "km", "mi")
             << "; night " << pair(8, "km", "mi") << ", " << pair(10, "km", "mi") << ", " << pair(12, "km", "mi") << "\n";
     }
+    if (!iso.isEmpty())
+        source("isolation");
     const QString summary = o.value(QStringLiteral("incidentsSummary")).toString();
-    if (!summary.isEmpty())
+    if (!summary.isEmpty()) {
         out << "  " << summary.trimmed() << "\n";
+        source("incidents");
+    }
     const QJsonObject nfpa = o.value(QStringLiteral("nfpa")).toObject();
     if (!nfpa.isEmpty())
         out << "  NFPA 704: health " << nfpa.value(QStringLiteral("health")).toString() << ", fire "
             << nfpa.value(QStringLiteral("fire")).toString() << ", instability " << nfpa.value(QStringLiteral("risk")).toString()
             << (nfpa.value(QStringLiteral("other")).toString().isEmpty() ? QString() : QStringLiteral(", special ") + nfpa.value(QStringLiteral("other")).toString())
             << "\n";
+    if (!nfpa.isEmpty())
+        source("nfpa");
     const QJsonObject npg = o.value(QStringLiteral("npgAttributes")).toObject();
     const QString cas = o.value(QStringLiteral("casNo")).toString();
     if (!cas.isEmpty())
         out << "  CAS " << cas << "\n";
+    bool chemistry = !cas.isEmpty();
     for (const char* key : { "idlhLimit", "nioshExpLimit", "oshaExpLimit" }) {
         const QString v = npg.value(QLatin1String(key)).toString();
         if (!v.isEmpty())
             out << "  " << key << ": " << v << "\n";
+        chemistry = chemistry || !v.isEmpty();
     }
-    for (const QJsonValue& e : o.value(QStringLiteral("hmtEntries")).toArray()) {
+    if (chemistry)
+        source("chemistry");
+    const QJsonArray entries = o.value(QStringLiteral("hmtEntries")).toArray();
+    for (const QJsonValue& e : entries) {
         const QJsonObject entry = e.toObject();
         out << "  Shipping: " << entry.value(QStringLiteral("name")).toString();
         const QString group = entry.value(QStringLiteral("packingGroup")).toString();
@@ -85,6 +104,8 @@ void printMaterialText(QTextStream& out, const QJsonObject& o)
         out << "; non-bulk " << entry.value(QStringLiteral("nonBulk")).toString() << ", bulk "
             << entry.value(QStringLiteral("bulk")).toString() << "\n";
     }
+    if (!entries.isEmpty())
+        source("shipping");
 }
 
 int materialCommand(Context& ctx, QStringList args)
@@ -101,9 +122,9 @@ int materialCommand(Context& ctx, QStringList args)
     } else {
         if (found.isEmpty())
             ctx.out << "No material matches " << args.first() << "\n";
-        const auto manifest = PackManifest::read(Resources::dir());
-        if (!found.isEmpty() && (!manifest || manifest->sample))
-            ctx.out << PackManifest::sampleNotice() << "\n";
+        const QString notice = PackManifest::activeNotice();
+        if (!found.isEmpty() && !notice.isEmpty())
+            ctx.out << notice << "\n";
         for (const QJsonValue& v : array)
             printMaterialText(ctx.out, v.toObject());
         ctx.out.flush();
@@ -154,12 +175,23 @@ int listCommand(Context& ctx, QStringList args)
         addSection(keys.at(i), model.materialsForSection(i));
 
     const QString title = filter.getFilterText();
+    // Counts shown or filtered on come from the incident reports the pack holds.
+    QString incidentsNote;
+    if (sort == SortIncidents || incidents) {
+        incidentsNote = PackManifest::activePartialNote(QStringLiteral("incidents"));
+        if (incidentsNote.isEmpty())
+            incidentsNote = PackManifest::sourceLine({ QStringLiteral("incidents") });
+    }
     if (ctx.json) {
         ctx.printJson(QJsonObject{ { QStringLiteral("title"), title }, { QStringLiteral("category"), category },
                                    { QStringLiteral("sort"), sort }, { QStringLiteral("hasIncidents"), incidents },
-                                   { QStringLiteral("sections"), sections } });
+                                   { QStringLiteral("sections"), sections }, { QStringLiteral("incidentsNote"), incidentsNote } });
     } else {
         ctx.out << title << "\n";
+        if (!incidentsNote.isEmpty())
+            ctx.out << incidentsNote << "\n";
+        if (total == 0)
+            ctx.out << L::tr("0 found") << "\n";
         for (const QJsonValue& s : std::as_const(sections)) {
             const QJsonObject so = s.toObject();
             if (so.value(QStringLiteral("key")).isString())

@@ -136,8 +136,20 @@ private:
         QString why;
         const auto manifest = PackManifest::read(m_dir.path(), &why);
         if (!manifest) {
-            add(name, 0, why);
+            add(name, 0, why + QStringLiteral("; the pack is unverified: its files and sources cannot be checked"));
             return;
+        }
+        m_manifest = manifest;
+        // A document the values come from is named with the sums of its files.
+        static const QRegularExpression hex64(QStringLiteral("^[0-9a-f]{64}$"));
+        for (const PackSource& source : manifest->sourceList) {
+            if (source.sample || source.id.isEmpty())
+                continue;
+            if (source.files.isEmpty())
+                add(name, 0, QStringLiteral("source %1 names no file").arg(source.id));
+            for (auto f = source.files.cbegin(); f != source.files.cend(); ++f)
+                if (!hex64.match(f.value()).hasMatch())
+                    add(name, 0, QStringLiteral("source %1: %2 has no valid SHA-256").arg(source.id, f.key()));
         }
         if (manifest->edition.isEmpty())
             add(name, 0, QStringLiteral("no edition"));
@@ -330,6 +342,7 @@ private:
                 continue;
             }
             checkSchema(*db, schema);
+            checkProvenance(*db, schema);
             (schema.fileName == QLatin1String("npg.db") ? npg : schema.fileName == QLatin1String("cfr49.db") ? cfr : inc) = std::move(db);
         }
         if (inc)
@@ -448,6 +461,40 @@ private:
         return true;
     }
 
+    // The rows of every table come only from the sources pack.json declares
+    // for it: none declared means none may be there, each source is named
+    // with the SHA-256 of its files, and the row count is the one the build
+    // recorded from those sources.
+    void checkProvenance(const ReadOnlyDb& db, const DatabaseSchema& schema)
+    {
+        if (!m_manifest)
+            return;
+        const QString name = QString::fromLatin1(PackManifest::kFileName);
+        if (m_manifest->tables.isEmpty()) {
+            if (schema.fileName == packDatabases().front().fileName)
+                add(name, 0, QStringLiteral("declares no sources per table; where the values come from cannot be checked"));
+            return;
+        }
+        for (const TableSchema& t : schema.tables) {
+            const auto declared = m_manifest->tables.constFind(t.name);
+            const auto counted = db.rows(QStringLiteral("select count(*) from %1").arg(t.name));
+            const qint64 rows = counted && !counted->isEmpty() ? counted->first().value(0).toLongLong() : 0;
+            if (declared == m_manifest->tables.constEnd()) {
+                add(schema.fileName, 0, QStringLiteral("table %1 is not listed in pack.json").arg(t.name));
+                continue;
+            }
+            if (declared->sources.isEmpty() && rows > 0)
+                add(schema.fileName, 0, QStringLiteral("table %1 has %2 rows, but pack.json declares no source for it").arg(t.name).arg(rows));
+            else if (declared->rows >= 0 && declared->rows != rows)
+                add(schema.fileName, 0, QStringLiteral("table %1 has %2 rows; its sources gave %3").arg(t.name).arg(rows).arg(declared->rows));
+            for (const QString& id : declared->sources) {
+                const PackSource* source = m_manifest->source(id);
+                if (source->sample && rows > 0 && !m_manifest->sample)
+                    add(name, 0, QStringLiteral("says \"sample\": false, but table %1 holds sample content (%2)").arg(t.name, id));
+            }
+        }
+    }
+
     void checkPlacardNames(const ReadOnlyDb& npg)
     {
         Capped report{ this, QStringLiteral("npg.db") };
@@ -561,6 +608,7 @@ private:
     }
 
     QDir m_dir;
+    std::optional<PackManifest> m_manifest;
     QList<Violation> m_violations;
     QSet<QString> m_guidePages;
     QHash<QString, QSet<QString>> m_anchors;

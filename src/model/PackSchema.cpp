@@ -106,6 +106,21 @@ const QStringList& packOtherArtwork()
     return files;
 }
 
+const DatabaseSchema* packTableDatabase(const QString& table)
+{
+    for (const DatabaseSchema& db : packDatabases())
+        for (const TableSchema& t : db.tables)
+            if (t.name == table)
+                return &db;
+    return nullptr;
+}
+
+const QStringList& packTextContents()
+{
+    static const QStringList names = { "materials", "guides", "pages", "provisions", "placards", "descriptions" };
+    return names;
+}
+
 const QStringList& packOtherPages()
 {
     static const QStringList pages = { "decon", "hazardclasses", "about", "about-ipad", "sendEmailBody" };

@@ -21,6 +21,12 @@ struct DatabaseSchema {
 // incidents ("hazmat_incidents.dat"), chemistry ("npg.db"), regulations ("cfr49.db")
 const std::vector<DatabaseSchema>& packDatabases();
 const DatabaseSchema* packDatabase(const QString& fileName);
+// The database file holding a table, or null for a name that is no table.
+const DatabaseSchema* packTableDatabase(const QString& table);
+// Contents of a pack that are files rather than tables, as pack.json names
+// them for their provenance: the materials file, guides, information pages,
+// special-provision pages, placard artwork and descriptions.
+const QStringList& packTextContents();
 
 // Resources the app names directly, so every pack must carry them.
 const QStringList& packPlacardKeys();      // each has "<key>.pdf"; "blank" shows placard 9

@@ -59,7 +59,9 @@ QString AboutController::aboutHtml() const
 
 QString AboutController::sampleText() const
 {
-    return m_sample ? L::tr("Sample data — not for operational use") : L::tr("Reference data");
+    if (!m_packFound)
+        return PackManifest::unverifiedNotice();
+    return m_sample ? PackManifest::sampleNotice() : L::tr("Reference data");
 }
 
 QString AboutController::checksumText() const

@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QTimer>
 #include <QUrl>
+#include "model/PackManifest.h"
+
 #include <QtQml/qqmlregistration.h>
 
 namespace qor {
@@ -66,6 +68,7 @@ class GuideViewController : public QObject {
     Q_PROPERTY(QString guideId READ guideId WRITE setGuide NOTIFY guideChanged)
     Q_PROPERTY(qor::MaterialRef material READ material WRITE setMaterial NOTIFY guideChanged)
     Q_PROPERTY(QString title READ title NOTIFY guideChanged)
+    Q_PROPERTY(QString sourceLine READ sourceLine NOTIFY guideChanged)
     Q_PROPERTY(QObject* pageView READ pageView CONSTANT)
     Q_PROPERTY(double textFontSize READ textFontSize NOTIFY textFontSizeChanged)
     Q_PROPERTY(bool rotatePromptVisible READ rotatePromptVisible NOTIFY rotatePromptVisibleChanged)
@@ -87,6 +90,7 @@ public:
     MaterialRef material() const { return m_material; }
     void setMaterial(const MaterialRef& material);
     QString title() const;
+    QString sourceLine() const { return PackManifest::sourceLine({ QStringLiteral("guides") }); }
     QObject* pageView() const;
 
     // The stored "textFontSize", 100 when absent.
@@ -134,6 +138,7 @@ class InfoViewController : public QObject {
     QML_ELEMENT
     Q_PROPERTY(QString page READ page WRITE setPage NOTIFY pageChanged)
     Q_PROPERTY(QObject* pageView READ pageView NOTIFY pageChanged)
+    Q_PROPERTY(QString sourceLine READ sourceLine NOTIFY pageChanged)
 public:
     static constexpr const char* kGuideScheme = "showguide://";
 
@@ -141,6 +146,7 @@ public:
     QString page() const { return m_page; }
     void setPage(const QString& page);
     QObject* pageView() const { return m_pageView; }
+    QString sourceLine() const { return PackManifest::sourceLine({ QStringLiteral("pages") }); }
 
     // A link followed in the page: guides open in the app, web links outside.
     Q_INVOKABLE void decidePolicyForNavigation(const QString& link);

@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QUrl>
 #include <QVariantList>
+#include "model/PackManifest.h"
+
 #include <QtQml/qqmlregistration.h>
 
 namespace qor {
@@ -19,6 +21,7 @@ class IsolationTableDelegate : public QObject {
     Q_PROPERTY(int units READ units WRITE segmentAction NOTIFY tableChanged)
     Q_PROPERTY(QVariantList sections READ sections NOTIFY tableChanged)
     Q_PROPERTY(bool empty READ empty NOTIFY tableChanged)
+    Q_PROPERTY(QString sourceLine READ sourceLine NOTIFY materialChanged)
     Q_PROPERTY(QUrl dayIcon READ dayIcon CONSTANT)
     Q_PROPERTY(QUrl nightIcon READ nightIcon CONSTANT)
 public:
@@ -47,6 +50,7 @@ public:
     // "height" and the texts of its cell.
     QVariantList sections() const { return m_sections; }
     bool empty() const { return m_sections.isEmpty(); }
+    QString sourceLine() const { return PackManifest::sourceLine({ QStringLiteral("iso_distances") }); }
     QString titleForSection(int section) const;
 
     // Cell texts for one condition record or one container row, in the given units.

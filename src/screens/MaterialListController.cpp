@@ -1,6 +1,7 @@
 #include "MaterialListController.h"
 
 #include "MaterialRows.h"
+#include "model/PackManifest.h"
 #include "model/QORModel.h"
 #include "model/Resources.h"
 
@@ -226,6 +227,24 @@ void MaterialListController::setSelectedRow(int row)
     if (row >= 0 && row < m_rows.size())
         emit dataChanged(index(row), index(row));
     emit selectedRowChanged();
+}
+
+QString MaterialListController::incidentsNote() const
+{
+    if (searching() || sortType() != SortIncidents)
+        return QString();
+    const QString note = PackManifest::activePartialNote(QStringLiteral("incidents"));
+    const QString source = PackManifest::sourceLine({ QStringLiteral("incidents") });
+    return note.isEmpty() ? source : QStringLiteral("%1\n%2").arg(note, source);
+}
+
+QString MaterialListController::emptyText() const
+{
+    if (!m_rows.isEmpty() || loading())
+        return QString();
+    if (searching())
+        return L::tr("0 found");
+    return L::tr("0 found: this data pack has no materials in %1").arg(m_title.trimmed());
 }
 
 int MaterialListController::rowCount(const QModelIndex& parent) const

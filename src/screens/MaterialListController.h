@@ -27,6 +27,8 @@ class MaterialListController : public QAbstractListModel {
     Q_PROPERTY(QVariantList categories READ categories CONSTANT)
     Q_PROPERTY(QString categoryAbbrev READ categoryAbbrev NOTIFY listChanged)
     Q_PROPERTY(int selectedRow READ selectedRow WRITE setSelectedRow NOTIFY selectedRowChanged)
+    Q_PROPERTY(QString incidentsNote READ incidentsNote NOTIFY listChanged)
+    Q_PROPERTY(QString emptyText READ emptyText NOTIFY listChanged)
 public:
     enum Roles {
         NameRole = Qt::UserRole + 1,
@@ -58,6 +60,11 @@ public:
     int searchScope() const { return m_scope; }
     void setSearchScope(int scope);
     QString placeholderText() const;
+    // Under the incidents sort: where the counts come from and that they are
+    // partial; empty under the other sorts and while searching.
+    QString incidentsNote() const;
+    // What an empty list says ("0 found" and why); empty when there are rows.
+    QString emptyText() const;
     QStringList sectionIndex() const;
     int sortType() const;
     QString sortImage() const;

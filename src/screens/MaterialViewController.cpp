@@ -30,6 +30,11 @@ QString attributeText(Material& m, const QString& key)
 
 } // namespace
 
+QStringList materialOverviewTables()
+{
+    return { QStringLiteral("materials"), QStringLiteral("dot_classes"), QStringLiteral("dot_placards"), QStringLiteral("placards") };
+}
+
 QVariantMap materialOverviewRow(Material& m)
 {
     QORModel* model = QORModel::sharedInstance();
@@ -75,6 +80,7 @@ void SummaryTableDelegate::setMaterial(const MaterialPtr& material)
 
     rows.beginSection();
     rows.add(QStringLiteral("top"), materialOverviewRow(m));
+    rows.addSource(materialOverviewTables());
     if (!Device::isTablet()) {
         if (const std::optional<StringMap> nfpa = model->nfpaForMaterial(m)) {
             rows.beginSection(L::tr("NFPA 704"));
@@ -82,6 +88,7 @@ void SummaryTableDelegate::setMaterial(const MaterialPtr& material)
             for (const char* k : { "health", "fire", "risk", "other" })
                 r.insert(QLatin1String(k), nfpa->value(QLatin1String(k)));
             rows.add(QStringLiteral("nfpa"), r);
+            rows.addSource({ QStringLiteral("nfpa") });
         }
     }
     rows.beginSection();
@@ -93,8 +100,12 @@ void SummaryTableDelegate::setMaterial(const MaterialPtr& material)
         { QStringLiteral("physDesc"), QT_TRANSLATE_NOOP("QOR", "Physical Description:") },
         { QStringLiteral("syn"), QT_TRANSLATE_NOOP("QOR", "Synonyms/Trade Names:") },
     };
+    QStringList detailTables = { QStringLiteral("materials") };
     for (const auto& [key, text] : std::as_const(m_available)) {
+        if (key == QLatin1String("physDesc") || key == QLatin1String("syn"))
+            detailTables << QStringLiteral("npg_guides") << QStringLiteral("cameo");
         if (key == QLatin1String("ISO")) {
+            detailTables << QStringLiteral("iso_distances");
             QString title = text;
             if (iso.count() == 1) {
                 const QString condition = iso.value(iso.keys().first()).value(QStringLiteral("Condition"));
@@ -110,6 +121,7 @@ void SummaryTableDelegate::setMaterial(const MaterialPtr& material)
                                            { QStringLiteral("caption"), caption ? L::tr(caption) : QString() },
                                            { QStringLiteral("text"), text } });
     }
+    rows.addSource(detailTables);
     m_sections = rows.sectionCount();
     m_rows = rows.rows();
     emit rowsChanged();
@@ -166,14 +178,19 @@ void ProtectionTableDelegate::rebuildRows()
                                           { QStringLiteral("formula"), formula },
                                           { QStringLiteral("copyText"), copy } });
         const bool tablet = Device::isTablet();
-        if (!tablet)
+        const QStringList overviewTables = { QStringLiteral("npg_guides"), QStringLiteral("unid_npgid"), QStringLiteral("cameo") };
+        if (!tablet) {
+            rows.addSource(overviewTables);
             rows.beginSection(L::tr("Exposure/Protection"), QStringLiteral("Exposure/Protection"));
+        }
         for (const QString& key : std::as_const(m_keys)) {
             const auto caption = std::find_if(m_labels.cbegin(), m_labels.cend(), [&](const auto& l) { return l.first == key; });
             rows.add(QStringLiteral("text"), { { QStringLiteral("key"), key },
                                                { QStringLiteral("caption"), caption->second },
                                                { QStringLiteral("text"), m.attributeForKey(key).value_or(QString()) } });
         }
+        // Exposure comes from the chemistry rows, the IDLH from the pocket guide.
+        rows.addSource(tablet ? overviewTables : QStringList{ QStringLiteral("cameo"), QStringLiteral("npg_guides") });
         const StringMap ghs = model->getGHSAttributesForMaterial(m);
         if (!tablet && !ghs.isEmpty()) {
             QStringList pictograms;
@@ -191,6 +208,7 @@ void ProtectionTableDelegate::rebuildRows()
             rows.add(QStringLiteral("ghs"), { { QStringLiteral("pictograms"), pictograms },
                                               { QStringLiteral("statements"), statements },
                                               { QStringLiteral("expanded"), m_ghsExpanded } });
+            rows.addSource({ QStringLiteral("ghs") });
         }
     }
     m_rows = rows.rows();

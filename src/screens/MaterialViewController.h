@@ -11,10 +11,10 @@
 
 namespace qor {
 
-
-
 // The material as the top cell of the summary and shipping tabs show it.
 QVariantMap materialOverviewRow(Material& material);
+// The tables that top cell shows values of, for its source line.
+QStringList materialOverviewTables();
 
 class SummaryTableDelegate : public QObject {
     Q_OBJECT

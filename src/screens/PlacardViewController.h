@@ -3,6 +3,8 @@
 // placard seen on scene and gets the guide to start from.
 #include <QAbstractListModel>
 #include <QStringList>
+#include "model/PackManifest.h"
+
 #include <QtQml/qqmlregistration.h>
 
 namespace qor {
@@ -13,6 +15,7 @@ class PlacardViewController : public QAbstractListModel {
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString sectionHeader READ sectionHeader CONSTANT)
     Q_PROPERTY(int rowHeight READ rowHeight CONSTANT)
+    Q_PROPERTY(QString sourceLine READ sourceLine CONSTANT)
 public:
     enum Roles { ImageRole = Qt::UserRole + 1, ImageUrlRole, GuideIdRole };
     Q_ENUM(Roles)
@@ -27,6 +30,7 @@ public:
     QString title() const;
     QString sectionHeader() const;
     int rowHeight() const { return kRowHeight; }
+    QString sourceLine() const { return PackManifest::sourceLine({ QStringLiteral("placards") }); }
 
     // Parallel lists: the row's artwork and the guide it leads to.
     const QStringList placardImages;

@@ -4,6 +4,8 @@
 #include <QAbstractListModel>
 #include <QColor>
 #include <QList>
+#include "model/PackManifest.h"
+
 #include <QtQml/qqmlregistration.h>
 
 namespace qor {
@@ -29,6 +31,7 @@ class ReferenceViewController : public QAbstractListModel {
     QML_ELEMENT
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(int rowHeight READ rowHeight CONSTANT)
+    Q_PROPERTY(QString sourceLine READ sourceLine CONSTANT)
 public:
     enum Section { MaterialsSection, TablesSection, ResourcesSection, IdentificationSection, ActionsSection, SectionCount };
     Q_ENUM(Section)
@@ -52,6 +55,7 @@ public:
 
     QString title() const;
     int rowHeight() const { return kRowHeight; }
+    QString sourceLine() const { return PackManifest::sourceLine({ QStringLiteral("pages"), QStringLiteral("iso_distances") }); }
     Q_INVOKABLE QString sectionHeader(int section) const;
     Q_INVOKABLE int sectionOf(int row) const;
     Q_INVOKABLE int rowInSection(int row) const;

@@ -36,6 +36,12 @@ void addRegulationRows(TableRows& rows, const StringMap& entry)
     }
 }
 
+// Shipping rows, their stowage wording and section titles.
+QStringList shippingTables()
+{
+    return { QStringLiteral("hmt"), QStringLiteral("vessel_stowage"), QStringLiteral("hmt_sections") };
+}
+
 } // namespace
 
 // ---------------------------------------------------------------- one entry
@@ -78,6 +84,7 @@ QVariantList ShippingTableDelegate::rows() const
     TableRows rows;
     rows.beginSection(m_attributes.value(QStringLiteral("name")));
     addRegulationRows(rows, m_attributes);
+    rows.addSource(shippingTables());
     return rows.rows();
 }
 
@@ -96,7 +103,8 @@ QVariantMap ShippingTableDelegate::actionForKey(const QString& key) const
         section.remove(QLatin1Char(' '));
         return { { QStringLiteral("kind"), QStringLiteral("cfr") },
                  { QStringLiteral("title"), QStringLiteral("49CFR § 173.%1").arg(section) },
-                 { QStringLiteral("html"), QORModel::sharedInstance()->getHTMLTextForCFRSection(section, QString()) } };
+                 { QStringLiteral("html"), QORModel::sharedInstance()->getHTMLTextForCFRSection(section, QString()) },
+                 { QStringLiteral("source"), PackManifest::sourceLine({ QStringLiteral("cfr_text") }) } };
     }
     if (key == QLatin1String("specialProvisions"))
         return { { QStringLiteral("kind"), QStringLiteral("provisions") },
@@ -125,8 +133,10 @@ void ShippingTabViewController::setMaterial(const MaterialPtr& material)
         m_entries = model->getHmtEntriesForMaterial(m);
         rows.beginSection();
         rows.add(QStringLiteral("top"), materialOverviewRow(m));
+        rows.addSource(materialOverviewTables());
         rows.beginSection(L::tr("Reported Incidents"), QStringLiteral("Hazmat Incidents"));
         rows.add(QStringLiteral("incident"), { { QStringLiteral("text"), model->incidentsSummaryForMaterial(m) } });
+        rows.addSource({ QStringLiteral("incidents") }, PackManifest::activePartialNote(QStringLiteral("incidents")));
         rows.beginSection(L::tr("Shipping Regulations"), QStringLiteral("Hazmat Shipping"));
         if (m_entries.size() == 1 && hmtEntryIsSameAsMaterialName(m_entries.first(), m)) {
             addRegulationRows(rows, m_entries.first());
@@ -149,6 +159,7 @@ void ShippingTabViewController::setMaterial(const MaterialPtr& material)
                                                     { QStringLiteral("index"), i } });
             }
         }
+        rows.addSource(shippingTables());
     }
     m_rows = rows.rows();
     emit rowsChanged();
@@ -178,6 +189,7 @@ QVariantList ShippingSpecialProvisionsTableDelegate::rows() const
     for (const QString& code : m_provisions)
         rows.add(QStringLiteral("provision"), { { QStringLiteral("text"), code },
                                                 { QStringLiteral("detail"), specialProvisionGroupForCode(code).listSubtitle } });
+    rows.addSource(shippingTables());
     return rows.rows();
 }
 

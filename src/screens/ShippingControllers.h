@@ -2,6 +2,7 @@
 // The shipping tab of the detail screen, one entry's regulation rows, the
 // special-provision list and the provision page it opens.
 #include "MaterialRef.h"
+#include "model/PackManifest.h"
 
 #include <QObject>
 #include <QStringList>
@@ -93,10 +94,12 @@ class SpecialProvisionsViewController : public QObject {
     Q_PROPERTY(QString category READ category WRITE setCategory NOTIFY categoryChanged)
     Q_PROPERTY(QString provision MEMBER m_provision NOTIFY categoryChanged)
     Q_PROPERTY(QObject* pageView READ pageView NOTIFY categoryChanged)
+    Q_PROPERTY(QString sourceLine READ sourceLine NOTIFY categoryChanged)
 public:
     using QObject::QObject;
     QString category() const { return m_category; }
     void setCategory(const QString& category);
+    QString sourceLine() const { return PackManifest::sourceLine({ QStringLiteral("provisions") }); }
     QObject* pageView() const;
 
 signals:

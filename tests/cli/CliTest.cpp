@@ -3,6 +3,7 @@
 #include "Cli.h"
 #include "FixturePack.h"
 
+#include "model/PackManifest.h"
 #include "model/QORModel.h"
 
 #include <QDir>
@@ -182,4 +183,51 @@ TEST(ErgCli, ImportWritesEveryTableOrNothing)
     const QString table1 = readAll(QDir(out).filePath(QStringLiteral("table1.csv")));
     EXPECT_TRUE(table1.contains(QStringLiteral("\n1746,144,Bromine trifluoride,When Spilled in Water,30,100,0.1,0.1,0.3,0.2,100,300,0.8,0.5,2.8,1.8\n")));
     EXPECT_TRUE(table1.contains(QStringLiteral("\n1005,125,\"Ammonia, anhydrous\",,30,100,0.1,0.1,0.2,0.1,,,,,,\n")));
+}
+
+TEST_F(Cli, MaterialNamesItsSourcesAndKeepsItsKeys)
+{
+    // Incidents from a partial extract, everything else sample content.
+    PackManifest m = FixturePack::fixtureManifest();
+    const PackSource reports = FixturePack::partialReportsSource();
+    m.sourceList << reports;
+    m.tables[QStringLiteral("incidents")].sources = QStringList{ reports.id };
+    m.tables[QStringLiteral("nfpa")].sources.clear();
+    ASSERT_TRUE(m.writeWithChecksums(pack.dir()));
+    const QString note = QStringLiteral("From a partial extract of DOT 5800.1 reports, Aug 2024 to Jul 2025");
+
+    Result r = runCli({ "--json", "material", "1005" });
+    ASSERT_EQ(r.code, 0);
+    const QJsonObject o = r.json().array().at(0).toObject();
+    // Scripts written against earlier versions keep every key, with its type.
+    const QList<QPair<const char*, QJsonValue::Type>> old = {
+        { "name", QJsonValue::String }, { "unId", QJsonValue::String }, { "guideId", QJsonValue::String },
+        { "placardId", QJsonValue::String }, { "mayPolymerize", QJsonValue::Bool }, { "methLab", QJsonValue::Bool },
+        { "qorAttributes", QJsonValue::Object }, { "numIncidents", QJsonValue::Double }, { "guide", QJsonValue::Object },
+        { "class", QJsonValue::String }, { "isolationDistances", QJsonValue::Object }, { "isolationConditions", QJsonValue::Array },
+        { "cameoAttributes", QJsonValue::Object }, { "npgAttributes", QJsonValue::Object }, { "ghsAttributes", QJsonValue::Object },
+        { "wiserAttributes", QJsonValue::Object }, { "casNumbers", QJsonValue::Object }, { "nfpa", QJsonValue::Null },
+        { "casNo", QJsonValue::String }, { "rtecNo", QJsonValue::String }, { "otherResources", QJsonValue::Array },
+        { "incidentsSummary", QJsonValue::String }, { "hmtEntries", QJsonValue::Array }, { "hmtAttributes", QJsonValue::Object },
+        { "placardName", QJsonValue::String },
+    };
+    for (const auto& [key, type] : old)
+        EXPECT_EQ(o.value(QLatin1String(key)).type(), type) << key;
+    const QJsonObject sources = o.value("sources").toObject();
+    EXPECT_EQ(sources.value("incidents").toString(), "Source: DOT 5800.1");
+    EXPECT_EQ(sources.value("isolation").toString(), "Source: Test fixture");
+    EXPECT_EQ(sources.value("nfpa").toString(), "Source: not recorded in this data pack");
+    EXPECT_EQ(o.value("incidentsNote").toString(), note);
+    EXPECT_EQ(o.value("packNotice").toString(), PackManifest::sampleNotice());
+
+    r = runCli({ "material", "1005" });
+    EXPECT_TRUE(r.out.startsWith(PackManifest::sampleNotice()));
+    EXPECT_TRUE(r.out.contains("  Incidents (12 months): 2\n    " + note + "\n")) << r.out.toStdString();
+    EXPECT_TRUE(r.out.contains(" mi\n    Source: Test fixture\n")) << "isolation figures, then their source";
+
+    r = runCli({ "list", "--sort", "2" });
+    EXPECT_TRUE(r.out.startsWith("Materials\n" + note + "\n")) << r.out.toStdString();
+    EXPECT_EQ(runCli({ "--json", "list", "--sort", "2" }).json().object().value("incidentsNote").toString(), note);
+    EXPECT_EQ(runCli({ "--json", "list", "--sort", "1" }).json().object().value("incidentsNote").toString(), "");
+    EXPECT_TRUE(runCli({ "list", "--category", "M" }).out.contains("0 found"));
 }

@@ -35,7 +35,50 @@ FixturePack::FixturePack()
     }
     setMaterials({});
     setGuides({});
+    writeManifest();
     activate();
+}
+
+PackManifest FixturePack::fixtureManifest()
+{
+    PackManifest m;
+    m.edition = QStringLiteral("test pack");
+    m.buildDate = QStringLiteral("2025-01-01");
+    m.sample = true;
+    PackSource source;
+    source.id = QStringLiteral("fixture");
+    source.title = QStringLiteral("Test fixture content");
+    source.citation = QStringLiteral("Test fixture");
+    source.sample = true;
+    m.sourceList << source;
+    m.sources << source.displayLine();
+    PackTable table;
+    table.sources << source.id;
+    for (const auto& db : packDatabases())
+        for (const auto& t : db.tables)
+            m.tables.insert(t.name, table);
+    for (const QString& content : packTextContents())
+        m.tables.insert(content, table);
+    return m;
+}
+
+PackSource FixturePack::partialReportsSource()
+{
+    PackSource s;
+    s.id = QStringLiteral("dot5800");
+    s.title = QStringLiteral("Incident reports");
+    s.citation = QStringLiteral("DOT 5800.1");
+    s.partial = true;
+    s.periodFrom = QStringLiteral("2024-08");
+    s.periodTo = QStringLiteral("2025-07");
+    s.files.insert(QStringLiteral("src/incidents/2024-08.csv"), QString(64, QLatin1Char('b')));
+    return s;
+}
+
+void FixturePack::writeManifest()
+{
+    PackManifest m = fixtureManifest();
+    ASSERT_TRUE(m.writeWithChecksums(dir()));
 }
 
 FixturePack::~FixturePack()

@@ -21,6 +21,7 @@ inline void PrintTo(const QStringList& list, std::ostream* os)
 }
 
 #include "model/Material.h"
+#include "model/PackManifest.h"
 
 namespace qor::test {
 
@@ -48,6 +49,14 @@ public:
     void sql(const QString& dbFile, const QString& statements);
     // Makes the resource lookup read this pack.
     void activate();
+    // pack.json of a test pack: every table and content declared from one
+    // source of sample content, as packs built from our own content are.
+    static PackManifest fixtureManifest();
+    // The incident reports as an official pack declares them: a partial
+    // extract ("DOT 5800.1"), Aug 2024 to Jul 2025, with one file and sum.
+    static PackSource partialReportsSource();
+    // Writes it with the checksums of the files as they are now.
+    void writeManifest();
 
 private:
     QTemporaryDir m_dir;

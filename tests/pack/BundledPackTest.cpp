@@ -57,7 +57,7 @@ protected:
     std::unique_ptr<ModelFixture> m_model;
 };
 
-TEST(BundledPackValidation, IsCleanAndMarkedSample)
+TEST(BundledPackValidation, IsCleanAndNamesItsSources)
 {
     const auto violations = cli::validatePack(bundledPack());
     QStringList lines;
@@ -66,10 +66,34 @@ TEST(BundledPackValidation, IsCleanAndMarkedSample)
     EXPECT_TRUE(violations.isEmpty()) << lines.join(QLatin1Char('\n')).toStdString();
     const auto manifest = PackManifest::read(bundledPack());
     ASSERT_TRUE(manifest);
-    EXPECT_TRUE(manifest->sample);
+
+    // Every official document is listed, with the sum published beside it.
+    QFile sums(QStringLiteral(QOR_SOURCE_DIR "/resources/official/SHA256SUMS"));
+    ASSERT_TRUE(sums.open(QIODevice::ReadOnly));
+    QMap<QString, QString> listed;
+    for (const PackSource& s : manifest->sourceList)
+        for (auto it = s.files.cbegin(); it != s.files.cend(); ++it)
+            listed.insert(it.key(), it.value());
+    int official = 0;
+    for (const QByteArray& line : sums.readAll().split('\n')) {
+        const QList<QByteArray> parts = line.simplified().split(' ');
+        if (parts.size() != 2)
+            continue;
+        ++official;
+        EXPECT_EQ(listed.value(QStringLiteral("official/") + QString::fromLatin1(parts.at(1))), QString::fromLatin1(parts.at(0)))
+            << parts.at(1).constData();
+    }
+    EXPECT_EQ(official, 10);
+    EXPECT_EQ(manifest->source(QStringLiteral("dot5800"))->files.size(), 12) << "one file per month of reports";
+
+    // "sample" is true exactly when some table with rows declares sample content.
+    bool sampleRows = false;
+    for (auto it = manifest->tables.cbegin(); it != manifest->tables.cend(); ++it)
+        sampleRows = sampleRows || (it->rows != 0 && manifest->tableIsSample(it.key()));
+    EXPECT_EQ(manifest->sample, sampleRows);
     QFile guide(bundledPack() + QStringLiteral("/128.html"));
     ASSERT_TRUE(guide.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(QString::fromUtf8(guide.readAll()).contains(PackManifest::sampleNotice()));
+    EXPECT_EQ(QString::fromUtf8(guide.readAll()).contains(PackManifest::sampleNotice()), manifest->sample);
 }
 
 TEST_F(BundledPack, HoldsTheGuidebookIndex)
@@ -210,11 +234,22 @@ TEST_F(BundledPack, ChlorineHasEverySection)
     EXPECT_EQ(rows(QStringLiteral("cfr49.db"), QStringLiteral("select * from cfr_text")), 0);
     EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select * from dot_placards where un_number = '1017' and name = '2.3'")), 0);
     EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select symbols from hmt where un_id = 1017 and class = 2.3")), 0);
-    EXPECT_GT(rows(QStringLiteral("hazmat_incidents.dat"), QStringLiteral("select * from incidents where un_id = '1017'")), 0);
     // Distances: water conditions and open-ended figures exist somewhere in the table.
     EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select * from iso_distances where condition like '%Water%'")), 0);
     EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select * from iso_distances where large_night_km = '11.0+'")), 0);
     EXPECT_GT(rows(QStringLiteral("npg.db"), QStringLiteral("select distinct packing_group from hmt")), 3);
+}
+
+TEST_F(BundledPack, NothingWithoutAnOfficialSource)
+{
+    // No official document gives these; the pack holds none rather than a guess.
+    for (const char* table : { "cameo", "wiser_text", "ghs", "nfpa", "hmt_sections" })
+        EXPECT_EQ(rows(QStringLiteral("npg.db"), QStringLiteral("select * from %1").arg(QLatin1String(table))), 0) << table;
+    QFile descriptions(bundledPack() + QStringLiteral("/wikipedia_descriptions_by_un_number.csv"));
+    EXPECT_TRUE(!descriptions.exists() || descriptions.size() == 0);
+    // Incidents come from the report files only (report numbers as they give them).
+    EXPECT_GT(rows(QStringLiteral("hazmat_incidents.dat"), QStringLiteral("select * from incidents")), 0);
+    EXPECT_EQ(rows(QStringLiteral("hazmat_incidents.dat"), QStringLiteral("select * from incidents where report_number like 'SAMPLE-%'")), 0);
 }
 
 } // namespace

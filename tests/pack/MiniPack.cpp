@@ -1,6 +1,5 @@
 #include "MiniPack.h"
 
-#include "model/PackManifest.h"
 #include "model/PackSchema.h"
 
 #include <QFile>
@@ -52,11 +51,7 @@ MiniPack::MiniPack()
 
 void MiniPack::seal()
 {
-    PackManifest manifest;
-    manifest.edition = QStringLiteral("test pack");
-    manifest.buildDate = QStringLiteral("2025-01-01");
-    manifest.sample = true;
-    manifest.writeWithChecksums(dir());
+    writeManifest();
 }
 
 void MiniPack::removeFile(const QString& name)

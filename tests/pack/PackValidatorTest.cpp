@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace qor::test {
@@ -20,6 +21,61 @@ TEST(PackValidator, MiniPackIsValid)
 {
     MiniPack pack;
     EXPECT_TRUE(pack.validate().isEmpty()) << describe(pack.validate()).join(QLatin1Char('\n')).toStdString();
+}
+
+// Rewrites the mini pack's pack.json after `change` altered its provenance.
+void sealWith(MiniPack& pack, const std::function<void(PackManifest&)>& change)
+{
+    PackManifest m = FixturePack::fixtureManifest();
+    change(m);
+    ASSERT_TRUE(m.writeWithChecksums(pack.dir()));
+}
+
+TEST(PackValidator, RowsOnlyFromDeclaredSources)
+{
+    MiniPack pack;
+    const QString npg = QStringLiteral("npg.db"), manifest = QStringLiteral("pack.json");
+    sealWith(pack, [](PackManifest& m) {
+        m.tables[QStringLiteral("ghs")].sources.clear();      // has a row, declares nothing
+        m.tables[QStringLiteral("nfpa")].sources.clear();     // empty and declares nothing: fine
+        m.tables[QStringLiteral("hmt")].rows = 5;             // the build saw other rows
+        m.tables.remove(QStringLiteral("dot_classes"));
+    });
+    auto v = pack.validate();
+    EXPECT_REPORTS(v, npg, QStringLiteral("table ghs has 1 rows, but pack.json declares no source"));
+    EXPECT_FALSE(reports(v, npg, QStringLiteral("table nfpa")));
+    EXPECT_REPORTS(v, npg, QStringLiteral("table hmt has 1 rows; its sources gave 5"));
+    EXPECT_REPORTS(v, npg, QStringLiteral("table dot_classes is not listed"));
+
+    // An official pack may hold nothing of sample content, and names each
+    // document with the sums of its files.
+    sealWith(pack, [](PackManifest& m) {
+        m.sample = false;
+        PackSource official;
+        official.id = QStringLiteral("cfr");
+        official.title = QStringLiteral("49 CFR 172.101");
+        official.files.insert(QStringLiteral("official/cfr49/ecfr-section-172.101.xml"), QStringLiteral("not-a-sum"));
+        PackSource unnamed = official;
+        unnamed.id = QStringLiteral("nofiles");
+        unnamed.files.clear();
+        m.sourceList << official << unnamed;
+        m.tables[QStringLiteral("hmt")].sources = QStringList{ official.id };
+    });
+    v = pack.validate();
+    EXPECT_REPORTS(v, manifest, QStringLiteral("\"sample\": false, but table iso_distances holds sample content"));
+    EXPECT_FALSE(reports(v, manifest, QStringLiteral("table hmt holds sample"))) << "hmt is declared official";
+    EXPECT_FALSE(reports(v, manifest, QStringLiteral("table nfpa holds sample"))) << "an empty table holds nothing";
+    EXPECT_REPORTS(v, manifest, QStringLiteral("source cfr: official/cfr49/ecfr-section-172.101.xml has no valid SHA-256"));
+    EXPECT_REPORTS(v, manifest, QStringLiteral("source nofiles names no file"));
+}
+
+TEST(PackValidator, SaysWhyAPackIsUnverified)
+{
+    MiniPack pack;
+    pack.removeFile(QStringLiteral("pack.json"));
+    EXPECT_REPORTS(pack.validate(), QStringLiteral("pack.json"), QStringLiteral("the pack is unverified"));
+    pack.writeFile(QStringLiteral("pack.json"), R"({"edition":"old","buildDate":"2025-01-01","sources":["names"],"files":{}})");
+    EXPECT_REPORTS(pack.validate(), QStringLiteral("pack.json"), QStringLiteral("declares no sources per table"));
 }
 
 TEST(PackValidator, MaterialLinesNeedSevenFields)

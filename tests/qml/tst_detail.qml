@@ -59,6 +59,47 @@ TestCase {
         mouseClick(findChild(page, "segment0"))
     }
 
+    function itemsNamed(item, name, out) {
+        if (item.objectName === name)
+            out.push(item)
+        var kids = item.children
+        for (var i = 0; i < kids.length; ++i)
+            itemsNamed(kids[i], name, out)
+        return out
+    }
+
+    // Drawn, not just present: a grab of each line has pixels other than its background.
+    function verifyDrawnText(label) {
+        verify(label.visible && label.width > 0 && label.height > 0, label.text)
+        var img = grabImage(label)
+        var background = img.pixel(0, 0)
+        var inked = false
+        for (var x = 0; x < img.width && !inked; x += 2)
+            for (var y = 0; y < img.height && !inked; y += 2)
+                inked = !Qt.colorEqual(img.pixel(x, y), background)
+        verify(inked, "nothing drawn for " + label.text)
+    }
+
+    function test_sourceLinesUnderEverySection() {
+        var page = openMaterial("1090")
+        mouseClick(findChild(page, "segment1"))
+        tryVerify(function() { return page.table.count === page.controller.rows.length })
+        var sourceRows = page.controller.rows.filter(function(r) { return r.kind === "source" })
+        compare(sourceRows.length, 3, "top, incidents and shipping sections")
+        waitForRendering(page.table)
+        var lines = itemsNamed(page.table.contentItem, "sourceLine", [])
+        compare(lines.length, sourceRows.length)
+        for (var i = 0; i < lines.length; ++i) {
+            verify(lines[i].text.indexOf("Source: ") === 0, lines[i].text)
+            verifyDrawnText(lines[i])
+        }
+        var notes = itemsNamed(page.table.contentItem, "sourceNote", []).filter(function(n) { return n.visible })
+        compare(notes.length, 1, "only the incident section says its counts are partial")
+        verify(notes[0].text.indexOf("From a partial extract of DOT 5800.1 reports") === 0, notes[0].text)
+        verifyDrawnText(notes[0])
+        mouseClick(findChild(page, "segment0"))
+    }
+
     function test_isolationUnits() {
         var page = openMaterial("1005")
         var iso = page.openIsolation()

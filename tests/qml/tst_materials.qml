@@ -60,6 +60,16 @@ TestCase {
         compare(controller.sortType, 1, "the sort carries over to the new category")
     }
 
+    function test_incidentSortSaysCountsArePartial() {
+        var note = findChild(list(), "incidentsNote")
+        verify(note)
+        verify(!note.visible, "no note under the alphabetical sort")
+        AppDelegate.showAllMaterialsWithSort(2)
+        tryVerify(function() { return note.visible })
+        verify(note.text.indexOf("From a partial extract of DOT 5800.1 reports") === 0, note.text)
+        verify(note.height > 0)
+    }
+
     function test_openMaterialFromList() {
         typeSearch("1017")
         var controller = list().controller

@@ -50,7 +50,8 @@ bool PackBuilder::run()
         return fail(m_output, QStringLiteral("cannot clear the output folder"));
     if (!QDir().mkpath(m_output))
         return fail(m_output, QStringLiteral("cannot create the output folder"));
-    return readPackInfo() && readOfficialSources() && copyPlainFiles() && importGuidebook() && buildDatabases() && buildGuidePages() && buildInfoPages()
+    return readPackInfo() && hashSources() && readOfficialSources() && copyPlainFiles() && importGuidebook() && buildDatabases()
+        && checkProvenance() && buildGuidePages() && buildInfoPages()
         && buildProvisionPages() && buildArtwork() && writeManifest();
 }
 
@@ -99,14 +100,21 @@ bool PackBuilder::readPackInfo()
         return fail(path, pe.errorString());
     m_edition = o.value(QStringLiteral("edition")).toString();
     m_buildDate = o.value(QStringLiteral("buildDate")).toString();
-    m_sample = o.value(QStringLiteral("sample")).toBool(true);
-    for (const QJsonValue& v : o.value(QStringLiteral("sources")).toArray())
-        m_sources << v.toString();
+    // A pack may call itself sample; it can never call itself official, that
+    // follows from its tables' declared sources.
+    m_declaredSample = o.value(QStringLiteral("sample")).toBool(false);
     if (m_edition.isEmpty() || !QDate::fromString(m_buildDate, Qt::ISODate).isValid())
         return fail(path, QStringLiteral("needs an \"edition\" and a \"buildDate\" (yyyy-mm-dd)"));
+    QString why;
+    if (!m_manifest.readProvenance(o, &why))
+        return fail(path, why);
+    for (auto it = m_manifest.tables.cbegin(); it != m_manifest.tables.cend(); ++it)
+        if (!packTextContents().contains(it.key()) && !packTableDatabase(it.key()))
+            return fail(path, QStringLiteral("\"%1\" is neither a table nor a content of the pack").arg(it.key()));
+    // The notice is known once the tables are built (checkProvenance).
     m_packValues = { { QStringLiteral("edition"), m_edition.toHtmlEscaped() },
                      { QStringLiteral("buildDate"), m_buildDate },
-                     { QStringLiteral("notice"), m_sample ? PackManifest::sampleNotice().toHtmlEscaped() : QString() } };
+                     { QStringLiteral("notice"), QString() } };
     return readText(src(QStringLiteral("src/page.html")), &m_pageTemplate);
 }
 
@@ -131,6 +139,58 @@ bool PackBuilder::readOfficialSources()
         const import::ImportTables t = guide->tables();
         for (auto it = t.cbegin(); it != t.cend(); ++it)
             m_officialTables[it.key()] += it.value();
+    }
+    return true;
+}
+
+bool PackBuilder::hashSources()
+{
+    // Official documents are checked against the sums published with them, so
+    // a changed or substituted file stops the build instead of reaching the pack.
+    const QString sumsPath = src(QStringLiteral("official/SHA256SUMS"));
+    QHash<QString, QString> published;
+    QString sums;
+    if (QFileInfo::exists(sumsPath) && !readText(sumsPath, &sums))
+        return false;
+    for (const QString& line : sums.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        const QStringList parts = line.simplified().split(QLatin1Char(' '));
+        if (parts.size() == 2)
+            published.insert(QStringLiteral("official/") + parts.at(1), parts.at(0).toLower());
+    }
+    const QString infoPath = src(QStringLiteral("src/pack-info.json"));
+    for (PackSource& s : m_manifest.sourceList) {
+        QMap<QString, QString> files;
+        for (auto it = s.files.cbegin(); it != s.files.cend(); ++it) {
+            // "dir/*.csv" names every matching file of that folder.
+            QStringList paths;
+            const QFileInfo pattern(it.key());
+            if (pattern.fileName().contains(QLatin1Char('*'))) {
+                const QString dir = pattern.path();
+                for (const QString& name : QDir(src(dir)).entryList({ pattern.fileName() }, QDir::Files, QDir::Name))
+                    paths << dir + QLatin1Char('/') + name;
+            } else {
+                paths << it.key();
+            }
+            if (paths.isEmpty())
+                return fail(infoPath, QStringLiteral("source \"%1\": no file matches %2").arg(s.id, it.key()));
+            for (const QString& rel : std::as_const(paths)) {
+                if (!QFileInfo(src(rel)).isFile())
+                    return fail(infoPath, QStringLiteral("source \"%1\": %2 does not exist").arg(s.id, rel));
+                QString why;
+                const QString sum = PackManifest::sha256(src(rel), &why);
+                if (sum.isEmpty())
+                    return fail(src(rel), why);
+                if (rel.startsWith(QLatin1String("official/"))) {
+                    const QString expected = published.value(rel);
+                    if (expected.isEmpty())
+                        return fail(sumsPath, QStringLiteral("no SHA-256 listed for %1").arg(rel.mid(9)));
+                    if (expected != sum)
+                        return fail(src(rel), QStringLiteral("SHA-256 %1 differs from %2 in official/SHA256SUMS").arg(sum, expected));
+                }
+                files.insert(rel, sum);
+            }
+        }
+        s.files = files;
     }
     return true;
 }
@@ -387,15 +447,50 @@ bool PackBuilder::buildProvisionPages()
     return true;
 }
 
+bool PackBuilder::checkProvenance()
+{
+    const QString infoPath = src(QStringLiteral("src/pack-info.json"));
+    bool sample = m_declaredSample;
+    for (const DatabaseSchema& schema : packDatabases()) {
+        sqlite3* db = nullptr;
+        if (sqlite3_open_v2(QFile::encodeName(out(schema.fileName)).constData(), &db, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK) {
+            sqlite3_close(db);
+            return fail(out(schema.fileName), QStringLiteral("cannot open"));
+        }
+        for (const TableSchema& t : schema.tables) {
+            const auto declared = m_manifest.tables.find(t.name);
+            if (declared == m_manifest.tables.end()) {
+                sqlite3_close(db);
+                return fail(infoPath, QStringLiteral("table \"%1\" has no entry in \"tables\"").arg(t.name));
+            }
+            sqlite3_stmt* stmt = nullptr;
+            qint64 rows = 0;
+            if (sqlite3_prepare_v2(db, QStringLiteral("select count(*) from %1").arg(t.name).toUtf8().constData(), -1, &stmt, nullptr) == SQLITE_OK
+                && sqlite3_step(stmt) == SQLITE_ROW)
+                rows = sqlite3_column_int64(stmt, 0);
+            sqlite3_finalize(stmt);
+            declared->rows = rows;
+            if (rows > 0 && declared->sources.isEmpty()) {
+                sqlite3_close(db);
+                return fail(infoPath, QStringLiteral("table \"%1\" has %2 rows but declares no source").arg(t.name).arg(rows));
+            }
+            sample = sample || (rows > 0 && m_manifest.tableIsSample(t.name));
+        }
+        sqlite3_close(db);
+    }
+    for (const QString& content : packTextContents())
+        sample = sample || m_manifest.tableIsSample(content);
+    m_manifest.sample = sample;
+    m_packValues.insert(QStringLiteral("notice"), sample ? PackManifest::sampleNotice().toHtmlEscaped() : QString());
+    return true;
+}
+
 bool PackBuilder::writeManifest()
 {
-    PackManifest manifest;
-    manifest.edition = m_edition;
-    manifest.buildDate = m_buildDate;
-    manifest.sample = m_sample;
-    manifest.sources = m_sources;
+    m_manifest.edition = m_edition;
+    m_manifest.buildDate = m_buildDate;
     QString why;
-    if (!manifest.writeWithChecksums(m_output, &why))
+    if (!m_manifest.writeWithChecksums(m_output, &why))
         return fail(out(QString::fromLatin1(PackManifest::kFileName)), why);
     return true;
 }

@@ -3,6 +3,7 @@
 // Every step is deterministic: no clock, no random numbers, sorted inputs.
 #include "import/EcfrImport.h"
 #include "import/NpgImport.h"
+#include "model/PackManifest.h"
 
 #include <QHash>
 #include <QString>
@@ -31,7 +32,10 @@ private:
     bool readOfficialSources();
     QString withPlacardKeys(const QString& materials) const;
     bool copyPlainFiles();
+    bool hashSources();
     bool buildDatabases();
+    // Every table declared, none with rows but no source; decides "sample".
+    bool checkProvenance();
     bool buildGuidePages();
     bool buildInfoPages();
     bool buildProvisionPages();
@@ -63,6 +67,8 @@ private:
     QString m_largeSpillSql;     // Table 3 rows for npg.db
     import::ShippingData m_shipping;
     import::ImportTables m_officialTables;
+    bool m_declaredSample = false;
+    PackManifest m_manifest;  // sources and tables as declared, then checked
 };
 
 } // namespace qor::packbuild

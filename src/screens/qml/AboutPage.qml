@@ -66,7 +66,7 @@ Page {
                     Label { text: qsTr("Date"); color: "#cccccc" }
                     Label { text: about.buildDate; color: "white" }
                     Label { text: qsTr("Data"); color: "#cccccc" }
-                    Label { text: about.sampleText; color: about.sample ? "#ffb045" : "white"; Layout.fillWidth: true; wrapMode: Text.Wrap }
+                    Label { text: about.sampleText; color: PackStatus.notice.length > 0 ? "#ffb045" : "white"; Layout.fillWidth: true; wrapMode: Text.Wrap }
                     Label { text: qsTr("Files"); color: "#cccccc" }
                     Label {
                         objectName: "packChecksums"
@@ -75,6 +75,49 @@ Page {
                              : about.checksumState === AboutController.NotChecked ? "white" : "#ff6b6b"
                         Layout.fillWidth: true
                         wrapMode: Text.Wrap
+                    }
+                }
+            }
+
+            Rectangle {
+                objectName: "sourcesPanel"
+                Layout.fillWidth: true
+                implicitHeight: sourcesColumn.implicitHeight + 20
+                color: QorTheme.sectionBackground
+                radius: 6
+                ColumnLayout {
+                    id: sourcesColumn
+                    anchors.fill: parent
+                    anchors.margins: 10
+                    spacing: 8
+                    Label { text: qsTr("Sources"); color: "white"; font.bold: true }
+                    Label {
+                        objectName: "packProblem"
+                        text: PackStatus.verified ? "" : PackStatus.notice + "\n" + PackStatus.problem
+                        visible: text.length > 0
+                        color: "#ff6b6b"
+                        Layout.fillWidth: true
+                        wrapMode: Text.Wrap
+                    }
+                    Repeater {
+                        model: PackStatus.sources
+                        delegate: ColumnLayout {
+                            required property var modelData
+                            Layout.fillWidth: true
+                            spacing: 2
+                            Label { text: modelData.title; color: modelData.sample ? "#ffb045" : "white"; font.bold: true; Layout.fillWidth: true; wrapMode: Text.Wrap }
+                            Label { text: modelData.edition; visible: text.length > 0; color: "#cccccc"; Layout.fillWidth: true; wrapMode: Text.Wrap }
+                            Label {
+                                text: modelData.tables.length > 0 ? qsTr("Used for: %1").arg(modelData.tables.join(", ")) : qsTr("Not used by this pack's content")
+                                color: "#cccccc"; font.pixelSize: 12; Layout.fillWidth: true; wrapMode: Text.Wrap
+                            }
+                            Label {
+                                text: modelData.files.join("\n")
+                                visible: text.length > 0
+                                color: "#9aa7b4"; font.pixelSize: 10; font.family: "monospace"
+                                Layout.fillWidth: true; wrapMode: Text.WrapAnywhere
+                            }
+                        }
                     }
                 }
             }

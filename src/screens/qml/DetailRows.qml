@@ -59,6 +59,7 @@ ListView {
                 case "ghs": return ghsCell
                 case "iso": return isoCell
                 case "incident": return incidentCell
+                case "source": return sourceCell
                 default: return textCell
                 }
             }
@@ -84,7 +85,7 @@ ListView {
                 Label { text: row.name; color: "white"; font.pixelSize: 20; font.bold: true; wrapMode: Text.Wrap; Layout.fillWidth: true }
                 Label { text: row.unId; color: "#ffb045"; font.pixelSize: 22; font.bold: true }
                 Label { text: qsTr("Hazard Class") + " " + row.hazardClass; color: "#dddddd"; font.pixelSize: 14; visible: row.hazardClass.length > 0 }
-                Label { text: QorTheme.sampleNotice; color: "#ffb045"; font.pixelSize: 11 }
+                Label { text: PackStatus.notice; visible: text.length > 0; color: "#ffb045"; font.pixelSize: 11 }
             }
             ToolButton {
                 id: copy
@@ -197,6 +198,21 @@ ListView {
                 maximumLineCount: 5
                 wrapMode: Text.Wrap
                 elide: Text.ElideRight
+            }
+        }
+    }
+    Component {
+        id: sourceCell
+        Rectangle {
+            readonly property var row: parent ? parent.row : ({})
+            height: sourceCol.implicitHeight + 12
+            color: QorTheme.pageBackground
+            Column {
+                id: sourceCol
+                x: 12; y: 6
+                width: parent.width - 24
+                Label { objectName: "sourceNote"; text: row.note || ""; visible: text.length > 0; color: "#ffb045"; font.pixelSize: 12; width: parent.width; wrapMode: Text.Wrap }
+                Label { objectName: "sourceLine"; text: row.text || ""; color: "#9aa7b4"; font.pixelSize: 11; font.italic: true; width: parent.width; wrapMode: Text.Wrap }
             }
         }
     }

@@ -22,6 +22,7 @@ Page {
         material: page.material ? page.material : null
         onPrintRequested: function(path) { host.web.printToPdf(path) }
     }
+    footer: SourceLine { text: controller.sourceLine }
     Component.onCompleted: controller.viewWillAppear(width, height)
     onWidthChanged: controller.prepareViewsForSize(width, height)
     onHeightChanged: controller.prepareViewsForSize(width, height)

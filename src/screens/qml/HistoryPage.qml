@@ -58,7 +58,8 @@ Page {
 
         Label {
             Layout.fillWidth: true
-            text: QorTheme.sampleNotice
+            text: PackStatus.notice
+            visible: text.length > 0
             horizontalAlignment: Text.AlignHCenter
             color: "#ffb045"
             font.pixelSize: 11

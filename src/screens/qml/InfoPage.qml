@@ -24,6 +24,7 @@ Page {
         }
     }
     GuideViewController { id: textSize }
+    footer: SourceLine { text: controller.sourceLine }
     PageHost {
         anchors.fill: parent
         pageView: controller.pageView

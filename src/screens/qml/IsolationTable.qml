@@ -51,7 +51,8 @@ ListView {
                     }
                 }
             }
-            Label { text: QorTheme.sampleNotice; color: "#402000"; font.pixelSize: 12; font.bold: true }
+            Label { text: PackStatus.notice; visible: text.length > 0; color: "#402000"; font.pixelSize: 12; font.bold: true }
+            Label { objectName: "sourceLine"; text: iso.sourceLine; visible: !iso.empty; color: "#203020"; font.pixelSize: 11; font.italic: true; wrapMode: Text.Wrap; width: parent.width }
         }
     }
 

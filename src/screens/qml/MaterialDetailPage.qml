@@ -26,7 +26,7 @@ Page {
     function openIsolation() { return push("IsolationPage.qml", { material: page.material, backText: controller.backTitle }) }
     function openAction(action) {
         if (action.kind === "cfr")
-            return push("RegulationPage.qml", { title: action.title, html: action.html, backText: controller.backTitle })
+            return push("RegulationPage.qml", { title: action.title, html: action.html, source: action.source, backText: controller.backTitle })
         if (action.kind === "provisions")
             return push("ProvisionsPage.qml", { title: action.title, provisions: action.provisions, headerTitle: action.headerTitle })
         return null

@@ -128,11 +128,23 @@ Page {
 
         Label {
             Layout.fillWidth: true
-            text: QorTheme.sampleNotice
+            text: PackStatus.notice
+            visible: text.length > 0
             horizontalAlignment: Text.AlignHCenter
             color: "#ffb045"
             font.pixelSize: 11
             background: Rectangle { color: "#1c2630" }
+        }
+
+        Label {
+            objectName: "incidentsNote"
+            Layout.fillWidth: true
+            Layout.margins: 6
+            text: list.incidentsNote
+            visible: text.length > 0
+            color: "#cccccc"
+            font.pixelSize: 12
+            wrapMode: Text.Wrap
         }
 
         TextField {
@@ -188,6 +200,17 @@ Page {
                 }
                 Keys.onReturnPressed: page.openRow(currentIndex)
                 ScrollBar.vertical: ScrollBar {}
+            }
+
+            Label {
+                objectName: "emptyText"
+                anchors.centerIn: parent
+                width: parent.width - 40
+                text: list.emptyText
+                visible: text.length > 0
+                color: "#cccccc"
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
             }
 
             // Side index: touching a key scrolls to its section.

@@ -51,7 +51,8 @@ Page {
             width: ListView.view.width
             Label {
                 width: parent.width
-                text: QorTheme.sampleNotice
+                text: PackStatus.notice
+                visible: text.length > 0
                 horizontalAlignment: Text.AlignHCenter
                 color: "#ffb045"
                 font.pixelSize: 11
@@ -69,6 +70,7 @@ Page {
                 background: Rectangle { color: QorTheme.sectionBackground }
             }
         }
+        footer: SourceLine { width: ListView.view.width; text: placards.sourceLine }
         delegate: ItemDelegate {
             id: row
             required property int index

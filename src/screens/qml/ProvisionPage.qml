@@ -12,6 +12,7 @@ Page {
     header: BarHeader { page: page; title: page.title }
     SpecialProvisionsViewController { id: controller }
     GuideViewController { id: textSize }
+    footer: SourceLine { text: controller.sourceLine }
     PageHost {
         anchors.fill: parent
         pageView: controller.pageView

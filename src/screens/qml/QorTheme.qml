@@ -10,7 +10,6 @@ QtObject {
     readonly property color isolationGreen: "#9cbc9c"     // RGB 156, 188, 156
     readonly property color isolationGreenDark: "#698969" // RGB 105, 137, 105
     readonly property int touchTarget: 44
-    readonly property string sampleNotice: qsTr("Sample data — not for operational use")
 
     function pdf(name, w, h) {
         return name ? "image://pdf/" + name + "?w=" + Math.round(w) + "&h=" + Math.round(h) : ""

@@ -56,12 +56,15 @@ Page {
         keyNavigationEnabled: true
         header: Label {
             width: ListView.view.width
-            text: QorTheme.sampleNotice
+            text: PackStatus.notice
+            visible: text.length > 0
+            height: visible ? implicitHeight : 0
             horizontalAlignment: Text.AlignHCenter
             color: "#ffb045"
             font.pixelSize: 11
             background: Rectangle { color: "#1c2630" }
         }
+        footer: SourceLine { width: ListView.view.width; text: reference.sourceLine }
         section.property: "section"
         section.delegate: Rectangle {
             required property string section

@@ -8,6 +8,8 @@ Page {
     id: page
     objectName: "regulationPage"
     property string html
+    property string source
+    footer: SourceLine { text: page.source }
     property string backText: qsTr("Back")
     property alias web: web
     background: Rectangle { color: "white" }

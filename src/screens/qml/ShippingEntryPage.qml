@@ -21,7 +21,7 @@ Page {
             if (!stack || !action.kind)
                 return
             if (action.kind === "cfr")
-                stack.push(Qt.resolvedUrl("RegulationPage.qml").toString(), { title: action.title, html: action.html })
+                stack.push(Qt.resolvedUrl("RegulationPage.qml").toString(), { title: action.title, html: action.html, source: action.source })
             else
                 stack.push(Qt.resolvedUrl("ProvisionsPage.qml").toString(), { title: action.title, provisions: action.provisions, headerTitle: action.headerTitle })
         }
