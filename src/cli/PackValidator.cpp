@@ -388,7 +388,7 @@ private:
     void checkProvisionAnchors(const ReadOnlyDb& npg)
     {
         Capped report{ this, QStringLiteral("npg.db") };
-        const auto rows = npg.rows(QStringLiteral("select rowid, un_id, special_provisions from hmt"));
+        const auto rows = npg.rows(QStringLiteral("select rowid, %1, special_provisions from hmt").arg(packUnIdColumnText(QStringLiteral("un_id"))));
         for (const QStringList& r : rows.value_or(QList<QStringList>())) {
             for (const QString& code : r.at(2).split(QStringLiteral(", "), Qt::SkipEmptyParts)) {
                 const QString page = specialProvisionPage(code);
@@ -407,7 +407,7 @@ private:
         for (const QStringList& r : cfr.rows(QStringLiteral("select distinct section_id from cfr_text")).value_or(QList<QStringList>()))
             texts.insert(r.at(0));
         Capped report{ this, QStringLiteral("npg.db") };
-        const auto rows = npg.rows(QStringLiteral("select rowid, un_id, non_bulk, bulk from hmt"));
+        const auto rows = npg.rows(QStringLiteral("select rowid, %1, non_bulk, bulk from hmt").arg(packUnIdColumnText(QStringLiteral("un_id"))));
         for (const QStringList& r : rows.value_or(QList<QStringList>())) {
             for (const QString& raw : { r.at(2), r.at(3) }) {
                 const QString section = QString(raw).remove(QLatin1Char(' '));

@@ -21,6 +21,9 @@ struct DatabaseSchema {
 // incidents ("hazmat_incidents.dat"), chemistry ("npg.db"), regulations ("cfr49.db")
 const std::vector<DatabaseSchema>& packDatabases();
 const DatabaseSchema* packDatabase(const QString& fileName);
+// SQL that reads a UN id column as the id's text ("0004", "NA1993"): those
+// columns have numeric affinity, which stores 0004 as the integer 4.
+QString packUnIdColumnText(const QString& column);
 
 // Resources the app names directly, so every pack must carry them.
 const QStringList& packPlacardKeys();      // each has "<key>.pdf"; "blank" shows placard 9
