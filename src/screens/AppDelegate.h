@@ -38,7 +38,7 @@ public:
     int searchTab() const { return m_tablet ? 4 : 5; }
 
     // "phone" or "tablet" fixes the layout; empty lets the window size decide.
-    void setFormFactorOverride(const QString& formFactor);
+    Q_INVOKABLE void setFormFactorOverride(const QString& formFactor);
     Q_INVOKABLE void updateForWindowSize(int width, int height);
 
     Q_INVOKABLE void showGuide(const QString& guideId);

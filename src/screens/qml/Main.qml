@@ -201,7 +201,23 @@ ApplicationWindow {
     Component {
         id: detailComponent
         // A stack of its own, so the detail screen can push its sub-screens.
-        StackView { initialItem: MaterialDetailPage { material: AppDelegate.detailMaterial } }
+        // The stack makes (and so owns) the page: a page declared inline would
+        // be handed back and resized while the window is torn down, reloading
+        // its icons through QML contexts that are already gone.
+        // A newly chosen material starts from its own detail, never under a
+        // sub-screen (isolation table, regulation page) of the previous one.
+        StackView {
+            id: detailStack
+            initialItem: detailPageComponent
+            Connections {
+                target: AppDelegate
+                function onDetailMaterialChanged() { detailStack.pop(null, StackView.Immediate) }
+            }
+        }
+    }
+    Component {
+        id: detailPageComponent
+        MaterialDetailPage { material: AppDelegate.detailMaterial }
     }
     Component {
         id: infoDetailComponent
