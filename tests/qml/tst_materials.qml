@@ -34,11 +34,6 @@ TestCase {
         stack.pop(null, StackView.Immediate)
     }
 
-    function test_launchOpensReference() {
-        // The shell selects the reference tab at launch; initTestCase moved on.
-        compare(AppDelegate.ReferenceTab, 3)
-    }
-
     function test_searchShowsRankedRows() {
         typeSearch("ammonia")
         var controller = list().controller

@@ -240,6 +240,53 @@ ApplicationWindow {
         }
     }
 
+    // Every screen a user can quit from; the self-test quits from each one.
+    readonly property var tabScreens: ["materials", "guides", "history", "reference", "about", "search"]
+    readonly property var detailScreens: ["detail-summary", "detail-shipping", "detail-protection"]
+    readonly property var pageScreens: ({ "isolation": "IsolationPage.qml", "info": "InfoPage.qml", "regulation": "RegulationPage.qml",
+                                          "provisions": "ProvisionsPage.qml", "provision": "ProvisionPage.qml",
+                                          "shipping-entry": "ShippingEntryPage.qml", "filter": "FilterPage.qml" })
+    function screenNames() {
+        return tabScreens.concat(detailScreens, Object.keys(pageScreens), ["guide", "placards"])
+    }
+
+    // Opens one of screenNames() the way a user reaches it; false when it cannot.
+    function openScreen(name) {
+        var t = tabScreens.indexOf(name)
+        if (t >= 0) {
+            AppDelegate.currentTab = t
+            return true
+        }
+        var m = materialListPage.firstMaterial()
+        if (!m || !m.valid)
+            return false
+        if (name === "guide") {
+            AppDelegate.showGuideForMaterial(m.guideId, m)
+            return true
+        }
+        if (name === "placards") {
+            openPlacards()
+            return true
+        }
+        openMaterial(m)
+        var stack = AppDelegate.tablet ? detailArea.item : materialsStack
+        var detail = stack ? stack.currentItem : null
+        if (!detail || detail.objectName !== "materialDetail")
+            return false
+        var d = detailScreens.indexOf(name)
+        if (d >= 0) {
+            detail.controller.selectedViewIndex = d
+            return true
+        }
+        var file = pageScreens[name]
+        if (!file)
+            return false
+        var props = { "isolation": { material: m }, "info": { page: "Isolation_Distances", title: "" }, "regulation": { html: "" },
+                      "provisions": { provisions: ["A1"] }, "provision": { category: "A", provision: "A1" },
+                      "shipping-entry": { attributes: detail.controller.shipping.firstEntry }, "filter": {} }[name]
+        return !!stack.push(Qt.resolvedUrl(file).toString(), props, StackView.Immediate)
+    }
+
     // Visits every screen once; the app's --self-test checks that each loads.
     function selfTest() {
         for (var t = 0; t < tabStacks.count; ++t)
