@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <gtest/gtest.h>
 
 using namespace qor;
@@ -113,4 +114,23 @@ TEST_F(Cli, UsageErrors)
         EXPECT_EQ(r.code, 2) << args.join(' ').toStdString();
         EXPECT_FALSE(r.err.isEmpty());
     }
+}
+
+// Scripts merge both streams and parse --json; where no runtime directory is
+// set (containers, cron, ssh) nothing else may appear in them.
+TEST_F(Cli, JsonParsesWithBothStreamsMergedAndNoRuntimeDirectory)
+{
+    QProcess cli;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.remove(QStringLiteral("XDG_RUNTIME_DIR"));
+    env.insert(QStringLiteral("QOR_PACK"), pack.dir());
+    cli.setProcessEnvironment(env);
+    cli.setProcessChannelMode(QProcess::MergedChannels);
+    cli.start(QStringLiteral(QOR_CLI_BINARY), { "--json", "--resources", pack.dir(), "material", "1005" });
+    ASSERT_TRUE(cli.waitForFinished(30000));
+    const QByteArray output = cli.readAll();
+    EXPECT_EQ(cli.exitCode(), 0) << output.constData();
+    QJsonParseError error;
+    QJsonDocument::fromJson(output, &error);
+    EXPECT_EQ(error.error, QJsonParseError::NoError) << output.left(200).constData();
 }
