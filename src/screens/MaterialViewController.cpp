@@ -162,7 +162,8 @@ void ProtectionTableDelegate::rebuildRows()
                                           { QStringLiteral("copyText"), copy } });
         const bool tablet = Device::isTablet();
         if (!tablet)
-            rows.beginSection(L::tr("Exposure/Protection"), QStringLiteral("Exposure/Protection"));
+            // The pack explains these figures on its pocket-guide page.
+            rows.beginSection(L::tr("Exposure/Protection"), QStringLiteral("NPG"));
         for (const QString& key : std::as_const(m_keys)) {
             const auto caption = std::find_if(m_labels.cbegin(), m_labels.cend(), [&](const auto& l) { return l.first == key; });
             rows.add(QStringLiteral("text"), { { QStringLiteral("key"), key },
