@@ -47,6 +47,7 @@ public:
     Q_INVOKABLE void showFilteredListForCategory(const QString& abbrev);
     Q_INVOKABLE void showDetailForMaterial(const qor::MaterialRef& material);
     Q_INVOKABLE void toggleFullscreen();
+    Q_INVOKABLE void setFullscreen(bool fullscreen);
     // A qor:// link from the command line or a second launch; always handled.
     Q_INVOKABLE bool openUrl(const QString& url);
     Q_INVOKABLE void saveData();

@@ -105,4 +105,35 @@ TestCase {
         compare(stack().currentItem.objectName, "regulationPage")
         compare(regulation.title, "49CFR § 173." + entry.nonBulk.replace(/ /g, ""))
     }
+
+    function openGuide(guideId) {
+        AppDelegate.showGuide(guideId)
+        tryVerify(function() { var g = findChild(win.contentItem, "guidePage"); return g && g.guideId === guideId }, 3000)
+        var guide = findChild(win.contentItem, "guidePage")
+        tryCompare(guide.StackView.view, "busy", false)
+        return guide
+    }
+
+    function test_leavingFullScreenAnyWayRestoresTheBars() {
+        var tabBar = findChild(win.contentItem, "tabBar")
+        // Escape leaves full screen first, and the guide stays.
+        var guide = openGuide("125")
+        AppDelegate.toggleFullscreen()
+        verify(!tabBar.visible)
+        keyClick(Qt.Key_Escape)
+        verify(!AppDelegate.fullscreen)
+        verify(tabBar.visible, "Escape brings the tab bar back")
+        compare(guide.StackView.view.currentItem, guide)
+        // Leaving the guide while in full screen brings them back too.
+        AppDelegate.toggleFullscreen()
+        guide.StackView.view.pop(null, StackView.Immediate)
+        verify(!AppDelegate.fullscreen)
+        verify(tabBar.visible, "popping the guide brings the tab bar back")
+        // So does switching tabs (a link or shortcut can do that).
+        guide = openGuide("125")
+        AppDelegate.toggleFullscreen()
+        AppDelegate.currentTab = AppDelegate.MaterialsTab
+        verify(tabBar.visible, "another tab brings the tab bar back")
+        findChild(win.contentItem, "guidePage").StackView.view.pop(null, StackView.Immediate)
+    }
 }

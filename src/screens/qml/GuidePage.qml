@@ -26,6 +26,8 @@ Page {
     onWidthChanged: controller.prepareViewsForSize(width, height)
     onHeightChanged: controller.prepareViewsForSize(width, height)
     StackView.onActivating: controller.viewWillAppear(width, height)
+    // Leaving the guide by any route leaves full screen, so the bars come back.
+    StackView.onRemoved: AppDelegate.setFullscreen(false)
 
     header: BarHeader {
         page: page

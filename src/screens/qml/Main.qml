@@ -92,6 +92,11 @@ ApplicationWindow {
     Shortcut {
         sequences: [StandardKey.Back, "Esc"]
         onActivated: {
+            // In full screen the first Escape only brings the bars back.
+            if (AppDelegate.fullscreen) {
+                AppDelegate.setFullscreen(false)
+                return
+            }
             var stack = window.currentStack()
             if (stack && stack.depth > 1)
                 stack.pop()
