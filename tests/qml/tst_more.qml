@@ -95,4 +95,21 @@ TestCase {
         tryCompare(about, "checksumState", AboutController.Verified)
         verify(about.aboutHtml.indexOf("About") >= 0)
     }
+
+    function test_indexRowsShowTheirOrderFromTheListRoot() {
+        // A material left open on the Materials tab, sorted by name.
+        AppDelegate.showAllMaterialsWithSort(0)
+        var list = win.materialList
+        var materials = list.StackView.view
+        win.openMaterial(list.firstMaterial())
+        tryCompare(materials, "depth", 2)
+        AppDelegate.currentTab = AppDelegate.ReferenceTab
+        win.referencePage.controller.selectRow(0)  // ID Number Index
+        compare(AppDelegate.currentTab, AppDelegate.MaterialsTab)
+        compare(materials.depth, 1, "the list itself is shown, not the material left open")
+        compare(list.controller.sortType, 1)
+        compare(list.controller.sortImage, "Sort-UnId.pdf", "the button shows the order shown")
+        win.referencePage.controller.selectRow(1)  // Name of Material Index
+        compare(list.controller.sortImage, "Sort-Alphabetically.pdf")
+    }
 }

@@ -42,7 +42,11 @@ ApplicationWindow {
         function onDetailMaterialChanged() { window.detailInfo = null }
         function onGuideRequested(guideId, material) { window.openGuide(guideId, material) }
         function onSearchRequested(text) { materialListPage.startSearch(text) }
-        function onEndSearchRequested() { materialListPage.endSearch() }
+        // An index or table row of Reference shows the list itself, from its root.
+        function onEndSearchRequested() {
+            materialsStack.pop(null, StackView.Immediate)
+            materialListPage.endSearch()
+        }
         function onScrollToMaterialRequested(material) { materialListPage.scrollToMaterial(material) }
         function onDialogRequested(title, message, button) {
             messageDialog.title = title
