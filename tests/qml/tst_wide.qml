@@ -76,4 +76,15 @@ TestCase {
         compare(page.shippingTable.attributes.name, second.name)
         compare(page.shippingTable.actionForKey("nonBulk").title, "49CFR § 173." + second.nonBulk.replace(/ /g, ""))
     }
+
+    function test_aboutIsReachableWithoutAnAboutTab() {
+        AppDelegate.currentTab = AppDelegate.ReferenceTab
+        var button = findChild(win.referencePage, "aboutButton")
+        verify(button && button.visible, "the Reference header offers About")
+        mouseClick(button)
+        compare(AppDelegate.currentTab, AppDelegate.AboutTab)
+        tryCompare(win.aboutPage, "visible", true)
+        verify(win.aboutPage.width > 0)
+        AppDelegate.currentTab = AppDelegate.ReferenceTab
+    }
 }
