@@ -51,6 +51,14 @@ TEST_F(LeadingZeroIds, EveryUnquotedLookupFindsTheRow)
     Material acetone = material(QStringLiteral("1090"), QStringLiteral("Acetone"));
     EXPECT_EQ(model().classForMaterial(acetone), QStringLiteral("3"));
     EXPECT_EQ(model().classForMaterial(material(QStringLiteral("0040"), QStringLiteral("Other"))), QString());
+
+    // An id that is not a number reaches no row, however it is spelled.
+    Material odd = material(QStringLiteral("0 or 1=1"), QStringLiteral("Ammonium Picrate"));
+    EXPECT_TRUE(model().getHmtEntriesForMaterial(odd).isEmpty());
+    EXPECT_EQ(model().placardNameForMaterial(odd), QStringLiteral("blank"));
+    EXPECT_TRUE(model().getCameoAttributesForMaterial(odd).isEmpty());
+    EXPECT_TRUE(model().getWiserAttributesForMaterial(odd).isEmpty());
+    EXPECT_TRUE(model().getNPGCasNumbersForMaterial(odd).isEmpty());
 }
 
 TEST_F(LeadingZeroIds, IdColumnsReadBackWithTheirZerosAndLettersKept)
