@@ -22,6 +22,10 @@ Page {
         material: page.material ? page.material : null
         onPrintRequested: function(path) { host.web.printToPdf(path) }
     }
+    Connections {
+        target: host.web
+        function onPdfPrintingFinished(filePath, success) { controller.printFinished(filePath, success) }
+    }
     Component.onCompleted: controller.viewWillAppear(width, height)
     onWidthChanged: controller.prepareViewsForSize(width, height)
     onHeightChanged: controller.prepareViewsForSize(width, height)
