@@ -3,10 +3,7 @@
 #include "Clock.h"
 
 #include <QDateTime>
-#include <QHash>
 #include <QRegularExpression>
-#include <cstring>
-#include <vector>
 #include <QTimeZone>
 #include <limits>
 #include <memory>
@@ -67,7 +64,6 @@ bool unsupported(const QVariant& value, QString* error)
     return false;
 }
 
-// Used for the XML form only; the binary form has its own writer below.
 Node toNode(const QVariant& value, QString* error)
 {
     switch (kindOf(value)) {
@@ -123,265 +119,80 @@ Node toNode(const QVariant& value, QString* error)
     return {};
 }
 
-// Binary form ("bplist00"), written directly: the library's writer spends
-// most of its time uniquing objects, far too slow for a large history.
-// Strings, integers and booleans are written once and shared.
-class BinaryWriter {
-public:
-    bool add(const QVariant& value, QString* error) { return collect(value, error).has_value(); }
-
-    QByteArray finish() const
-    {
-        const int refSize = bytesFor(quint64(m_objects.size()));
-        QByteArray out("bplist00");
-        out.reserve(m_payloadEstimate + qsizetype(m_objects.size()) * 4 + 40);
-        std::vector<quint64> offsets;
-        offsets.reserve(m_objects.size());
-        for (const Object& o : m_objects) {
-            offsets.push_back(quint64(out.size()));
-            out.append(o.bytes);
-            for (quint64 ref : o.refs)
-                appendBigEndian(out, ref, refSize);
-        }
-        const quint64 tableOffset = quint64(out.size());
-        const int offsetSize = bytesFor(tableOffset);
-        for (quint64 off : offsets)
-            appendBigEndian(out, off, offsetSize);
-        out.append(6, '\0');
-        out.append(char(offsetSize));
-        out.append(char(refSize));
-        appendBigEndian(out, quint64(m_objects.size()), 8);
-        appendBigEndian(out, 0, 8);  // the root is the first object
-        appendBigEndian(out, tableOffset, 8);
-        return out;
-    }
-
-private:
-    struct Object {
-        QByteArray bytes;           // marker and payload
-        std::vector<quint64> refs;  // for arrays and dictionaries, after the payload
-    };
-    std::vector<Object> m_objects;
-    QHash<QString, quint64> m_strings;
-    QHash<qint64, quint64> m_ints;
-    quint64 m_bools[2] = { ~0ULL, ~0ULL };
-    qsizetype m_payloadEstimate = 0;
-
-    static int bytesFor(quint64 n)
-    {
-        return n <= 0xFF ? 1 : n <= 0xFFFF ? 2 : n <= 0xFFFFFFFFULL ? 4 : 8;
-    }
-
-    static void appendBigEndian(QByteArray& out, quint64 v, int size)
-    {
-        for (int shift = (size - 1) * 8; shift >= 0; shift -= 8)
-            out.append(char((v >> shift) & 0xFF));
-    }
-
-    static void appendInt(QByteArray& out, qint64 v)
-    {
-        if (v < 0) {
-            out.append(char(0x13));  // eight bytes, the only signed width
-            appendBigEndian(out, quint64(v), 8);
-            return;
-        }
-        const int size = bytesFor(quint64(v));
-        out.append(char(0x10 | (size == 1 ? 0 : size == 2 ? 1 : size == 4 ? 2 : 3)));
-        appendBigEndian(out, quint64(v), size);
-    }
-
-    static void appendMarker(QByteArray& out, int type, quint64 count)
-    {
-        if (count < 15) {
-            out.append(char(type | int(count)));
-            return;
-        }
-        out.append(char(type | 0xF));
-        appendInt(out, qint64(count));
-    }
-
-    static void appendDouble(QByteArray& out, int marker, double d)
-    {
-        quint64 bits;
-        std::memcpy(&bits, &d, sizeof bits);
-        out.append(char(marker));
-        appendBigEndian(out, bits, 8);
-    }
-
-    quint64 push(QByteArray bytes)
-    {
-        m_payloadEstimate += bytes.size();
-        m_objects.push_back(Object{ std::move(bytes), {} });
-        return quint64(m_objects.size() - 1);
-    }
-
-    quint64 string(const QString& s)
-    {
-        auto it = m_strings.constFind(s);
-        if (it != m_strings.constEnd())
-            return *it;
-        QByteArray bytes;
-        bool ascii = true;
-        for (QChar c : s)
-            ascii = ascii && c.unicode() < 0x80;
-        if (ascii) {
-            appendMarker(bytes, 0x50, quint64(s.size()));
-            bytes.append(s.toLatin1());
-        } else {
-            appendMarker(bytes, 0x60, quint64(s.size()));  // UTF-16 code units
-            for (QChar c : s)
-                appendBigEndian(bytes, c.unicode(), 2);
-        }
-        const quint64 index = push(std::move(bytes));
-        m_strings.insert(s, index);
-        return index;
-    }
-
-    std::optional<quint64> collect(const QVariant& value, QString* error)
-    {
-        switch (kindOf(value)) {
-        case Kind::String:
-            return string(value.toString());
-        case Kind::Bool: {
-            const bool b = value.toBool();
-            if (m_bools[b] == ~0ULL)
-                m_bools[b] = push(QByteArray(1, char(b ? 0x09 : 0x08)));
-            return m_bools[b];
-        }
-        case Kind::Int:
-        case Kind::UInt: {
-            const bool big = kindOf(value) == Kind::UInt && value.toULongLong() > quint64(std::numeric_limits<qint64>::max());
-            if (big) {  // sixteen bytes, the high half zero
-                QByteArray bytes(1, char(0x14));
-                appendBigEndian(bytes, 0, 8);
-                appendBigEndian(bytes, value.toULongLong(), 8);
-                return push(std::move(bytes));
-            }
-            const qint64 v = value.toLongLong();
-            auto it = m_ints.constFind(v);
-            if (it != m_ints.constEnd())
-                return *it;
-            QByteArray bytes;
-            appendInt(bytes, v);
-            const quint64 index = push(std::move(bytes));
-            m_ints.insert(v, index);
-            return index;
-        }
-        case Kind::Real: {
-            QByteArray bytes;
-            appendDouble(bytes, 0x23, value.toDouble());
-            return push(std::move(bytes));
-        }
-        case Kind::Date: {
-            QByteArray bytes;
-            appendDouble(bytes, 0x33, Clock::secondsSinceReferenceDate(value.toDateTime()));
-            return push(std::move(bytes));
-        }
-        case Kind::Data: {
-            const QByteArray data = value.toByteArray();
-            QByteArray bytes;
-            appendMarker(bytes, 0x40, quint64(data.size()));
-            bytes.append(data);
-            return push(std::move(bytes));
-        }
-        case Kind::Uid: {
-            const quint64 v = value.value<PlistUid>().value;
-            const int size = bytesFor(v);
-            QByteArray bytes(1, char(0x80 | (size - 1)));
-            appendBigEndian(bytes, v, size);
-            return push(std::move(bytes));
-        }
-        case Kind::Array: {
-            const QVariantList list = value.toList();
-            QByteArray bytes;
-            appendMarker(bytes, 0xA0, quint64(list.size()));
-            const quint64 index = push(std::move(bytes));
-            std::vector<quint64> refs;
-            refs.reserve(size_t(list.size()));
-            for (const QVariant& item : list) {
-                const auto ref = collect(item, error);
-                if (!ref)
-                    return std::nullopt;
-                refs.push_back(*ref);
-            }
-            m_objects[index].refs = std::move(refs);
-            return index;
-        }
-        case Kind::Dict: {
-            const QVariantMap map = value.toMap();
-            QByteArray bytes;
-            appendMarker(bytes, 0xD0, quint64(map.size()));
-            const quint64 index = push(std::move(bytes));
-            std::vector<quint64> refs(size_t(map.size()) * 2);
-            size_t i = 0;
-            for (auto it = map.constBegin(); it != map.constEnd(); ++it, ++i) {
-                refs[i] = string(it.key());
-                const auto ref = collect(it.value(), error);
-                if (!ref)
-                    return std::nullopt;
-                refs[size_t(map.size()) + i] = *ref;
-            }
-            m_objects[index].refs = std::move(refs);
-            return index;
-        }
-        case Kind::Unsupported:
-            break;
-        }
-        unsupported(value, error);
-        return std::nullopt;
-    }
-};
-
-// libplist asserts (ending the process) when asked for a key whose text holds
-// a NUL, so such lists are refused before libplist sees them. Binary lists:
-// every string object is checked; XML lists: raw NULs and &#0; references.
-bool holdsNulInText(const QByteArray& bytes)
+// libplist asserts (ending the process) when asked for the text of a
+// dictionary key that holds a NUL, so such lists are refused before it sees
+// them. A NUL in a value does it no harm. Binary lists: the
+// strings that dictionaries use as keys; XML lists: any raw NUL, and NUL
+// references in <key> elements.
+bool holdsNulInKey(const QByteArray& bytes)
 {
     if (!bytes.startsWith("bplist")) {
-        static const QRegularExpression nulReference(QStringLiteral("&#(0+|[xX]0+);"));
-        return bytes.contains('\0') || nulReference.match(QString::fromLatin1(bytes)).hasMatch();
+        // XML never holds a raw NUL; a reference to one matters only in a key.
+        static const QRegularExpression nulKey(QStringLiteral("<key>[^<]*&#(0+|[xX]0+);"));
+        return bytes.contains('\0') || nulKey.match(QString::fromLatin1(bytes)).hasMatch();
     }
     const qsizetype size = bytes.size();
     if (size < 8 + 32)
         return false;  // libplist refuses it
     const auto* b = reinterpret_cast<const uchar*>(bytes.constData());
-    const auto readInt = [&](qsizetype at, int width) {
+    const auto readInt = [&](quint64 at, int width) {
         quint64 v = 0;
         for (int i = 0; i < width; ++i)
-            v = v << 8 | b[at + i];
+            v = v << 8 | b[at + quint64(i)];
         return v;
     };
     const uchar* trailer = b + size - 32;
     const int offsetSize = trailer[6];
-    const quint64 objects = readInt(size - 24, 8);
-    const quint64 table = readInt(size - 8, 8);
-    if (offsetSize < 1 || offsetSize > 8 || table >= quint64(size) || objects > quint64(size))
+    const int refSize = trailer[7];
+    const quint64 objects = readInt(quint64(size) - 24, 8);
+    const quint64 table = readInt(quint64(size) - 8, 8);
+    const quint64 end = quint64(size) - 32;
+    if (offsetSize < 1 || offsetSize > 8 || refSize < 1 || refSize > 8 || table >= end || objects > quint64(size))
         return false;
-    for (quint64 i = 0; i < objects; ++i) {
-        const quint64 entry = table + i * offsetSize;
-        if (entry + offsetSize > quint64(size) - 32)
-            break;
-        const quint64 at = readInt(qsizetype(entry), offsetSize);
-        if (at >= quint64(size))
-            continue;
-        const uchar marker = b[at];
-        if ((marker & 0xF0) != 0x50 && (marker & 0xF0) != 0x60)
-            continue;
-        quint64 length = marker & 0x0F;
-        quint64 start = at + 1;
-        if (length == 0x0F) {
-            if (start >= quint64(size) || (b[start] & 0xF0) != 0x10)
-                continue;
-            const int width = 1 << (b[start] & 0x0F);
-            if (width > 8 || start + 1 + width > quint64(size))
-                continue;
-            length = readInt(qsizetype(start + 1), width);
-            start += 1 + width;
-        }
-        const int unit = (marker & 0xF0) == 0x60 ? 2 : 1;
-        const quint64 end = std::min<quint64>(quint64(size), start + std::min<quint64>(length, quint64(size)) * unit);
-        for (quint64 p = start; p + unit <= end; p += unit)
+    // Where object `i` starts, or `end` when the table does not say.
+    const auto objectAt = [&](quint64 i) {
+        const quint64 entry = table + i * quint64(offsetSize);
+        if (i >= objects || entry + quint64(offsetSize) > end)
+            return end;
+        return std::min(readInt(entry, offsetSize), end);
+    };
+    // A marker's count: the low nibble, or an integer object after it.
+    const auto countAt = [&](quint64 at, quint64* count, quint64* start) {
+        *count = b[at] & 0x0F;
+        *start = at + 1;
+        if (*count != 0x0F)
+            return true;
+        if (*start >= end || (b[*start] & 0xF0) != 0x10)
+            return false;
+        const int width = 1 << (b[*start] & 0x0F);
+        if (width > 8 || *start + 1 + quint64(width) > end)
+            return false;
+        *count = readInt(*start + 1, width);
+        *start += 1 + quint64(width);
+        return true;
+    };
+    const auto stringHoldsNul = [&](quint64 at) {
+        if (at >= end || ((b[at] & 0xF0) != 0x50 && (b[at] & 0xF0) != 0x60))
+            return false;
+        quint64 length = 0, start = 0;
+        if (!countAt(at, &length, &start))
+            return false;
+        const int unit = (b[at] & 0xF0) == 0x60 ? 2 : 1;
+        const quint64 stop = std::min<quint64>(end, start + std::min<quint64>(length, end) * quint64(unit));
+        for (quint64 p = start; p + quint64(unit) <= stop; p += quint64(unit))
             if (b[p] == 0 && (unit == 1 || b[p + 1] == 0))
+                return true;
+        return false;
+    };
+    for (quint64 i = 0; i < objects; ++i) {
+        const quint64 at = objectAt(i);
+        if (at >= end || (b[at] & 0xF0) != 0xD0)
+            continue;
+        quint64 count = 0, keys = 0;
+        if (!countAt(at, &count, &keys))
+            continue;
+        for (quint64 k = 0; k < count && keys + (k + 1) * quint64(refSize) <= end; ++k)
+            if (stringHoldsNul(objectAt(readInt(keys + k * quint64(refSize), refSize))))
                 return true;
     }
     return false;
@@ -522,27 +333,21 @@ private:
 
 } // namespace
 
-std::optional<QByteArray> serialize(const QVariant& value, Format format, QString* error)
+std::optional<QByteArray> serialize(const QVariant& value, QString* error)
 {
-    if (format == Format::Binary) {
-        BinaryWriter writer;
-        if (!writer.add(value, error))
-            return std::nullopt;
-        return writer.finish();
-    }
     Node root = toNode(value, error);
     if (!root)
         return std::nullopt;
     char* out = nullptr;
     uint32_t length = 0;
-    plist_to_xml(root.get(), &out, &length);
+    plist_to_bin(root.get(), &out, &length);
     if (!out) {
         if (error)
             *error = QStringLiteral("the property list could not be encoded");
         return std::nullopt;
     }
     QByteArray bytes(out, qsizetype(length));
-    plist_to_xml_free(out);
+    plist_to_bin_free(out);
     return bytes;
 }
 
@@ -550,7 +355,7 @@ std::optional<QVariant> parse(const QByteArray& bytes)
 {
     if (bytes.isEmpty() || bytes.size() > qsizetype(std::numeric_limits<uint32_t>::max()))
         return std::nullopt;
-    if (holdsNulInText(bytes))
+    if (holdsNulInKey(bytes))
         return std::nullopt;
     plist_t root = nullptr;
     plist_from_memory(bytes.constData(), uint32_t(bytes.size()), &root);

@@ -20,11 +20,9 @@ struct PlistUid {
 
 namespace plist {
 
-enum class Format { Binary, Xml };
-
-// Serialises a value; none when it holds something a property list cannot
-// (the reason goes to *error).
-std::optional<QByteArray> serialize(const QVariant& value, Format format = Format::Binary, QString* error = nullptr);
+// Serialises a value as a binary property list; none when it holds something
+// a property list cannot (the reason goes to *error).
+std::optional<QByteArray> serialize(const QVariant& value, QString* error = nullptr);
 // Parses binary or XML; none when the bytes are not a property list.
 std::optional<QVariant> parse(const QByteArray& bytes);
 

@@ -1,5 +1,5 @@
-// The binary writer is our own; libplist, which reads every file, must read
-// back exactly what it wrote.
+// Values through the binary form and back, and bytes libplist must never be
+// handed.
 #include "HistoryTestSupport.h"
 
 #include "history/PropertyList.h"
@@ -59,9 +59,9 @@ TEST(PropertyList, LargeTablesWidenReferencesAndOffsets)
 TEST(PropertyList, UnsupportedValuesAndDamagedBytesGiveNone)
 {
     QString error;
-    EXPECT_FALSE(plist::serialize(QVariantList{ 1, QVariant() }, plist::Format::Binary, &error));
+    EXPECT_FALSE(plist::serialize(QVariantList{ 1, QVariant() }, &error));
     EXPECT_FALSE(error.isEmpty());
-    EXPECT_FALSE(plist::serialize(QVariantMap{ { "d", QDateTime() } }, plist::Format::Xml));
+    EXPECT_FALSE(plist::serialize(QVariantMap{ { "d", QDateTime() } }));
     const QByteArray good = *plist::serialize(QVariantList{ "a", 1, QVariantMap{ { "k", 2.0 } } });
     for (qsizetype cut : { 0, 8, 20, int(good.size()) - 1 })
         EXPECT_FALSE(plist::parse(good.left(cut))) << cut;
@@ -71,4 +71,38 @@ TEST(PropertyList, UnsupportedValuesAndDamagedBytesGiveNone)
     QByteArray corrupt = good;
     corrupt[corrupt.size() - 1] = char(0x7f);  // offset table points past the end
     EXPECT_FALSE(plist::parse(corrupt));
+}
+
+namespace {
+// A one-entry dictionary {key: value} in the binary form, both strings.
+QByteArray binaryDict(const QByteArray& key, const QByteArray& value)
+{
+    QByteArray b("bplist00");
+    const char keyAt = char(b.size() + 3);
+    b.append("\xD1\x01\x02", 3);
+    b.append(char(0x50 | key.size())).append(key);
+    const char valueAt = char(b.size());
+    b.append(char(0x50 | value.size())).append(value);
+    const char table = char(b.size());
+    b.append(char(8)).append(keyAt).append(valueAt);
+    b.append(6, '\0').append(char(1)).append(char(1));
+    b.append(7, '\0').append(char(3)).append(8, '\0').append(7, '\0').append(table);
+    return b;
+}
+} // namespace
+
+TEST(PropertyList, ANulIsRefusedInKeysOnly)
+{
+    const auto plain = plist::parse(binaryDict("k", "ab"));
+    ASSERT_TRUE(plain) << "the hand-made list is well formed";
+    EXPECT_EQ(plain->toMap().value("k").toString(), "ab");
+    const auto inValue = plist::parse(binaryDict("k", QByteArray("a\0b", 3)));
+    ASSERT_TRUE(inValue) << "a NUL in a value does libplist no harm";
+    EXPECT_TRUE(inValue->toMap().value("k").toString().startsWith("a"));
+    EXPECT_FALSE(plist::parse(binaryDict(QByteArray("k\0", 2), "ab")));
+
+    const QByteArray xml = "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>k&#0;</key><string>a</string>"
+                           "</dict></plist>";
+    EXPECT_FALSE(plist::parse(xml));
+    EXPECT_TRUE(plist::parse(QByteArray(xml).replace("k&#0;", "k")));
 }
