@@ -128,11 +128,13 @@ bool hasType(const QVariant& v, FieldType type)
         const int id = v.metaType().id();
         if (id == QMetaType::Int)
             return true;
-        return id == QMetaType::LongLong && v.toLongLong() >= std::numeric_limits<int>::min()
-               && v.toLongLong() <= std::numeric_limits<int>::max();
+        if (id != QMetaType::LongLong)
+            return false;
+        const qlonglong n = *static_cast<const qlonglong*>(v.constData());
+        return n >= std::numeric_limits<int>::min() && n <= std::numeric_limits<int>::max();
     }
     case FieldType::Date:
-        return v.metaType().id() == QMetaType::QDateTime && v.toDateTime().isValid();
+        return v.metaType().id() == QMetaType::QDateTime && static_cast<const QDateTime*>(v.constData())->isValid();
     }
     return false;
 }
@@ -155,11 +157,12 @@ HistoryObjectPtr HistoryObject::fromProperties(const QVariantMap& props, bool* d
             unknown.append(it.key());
             continue;
         }
+        // The type is checked: the text is taken without a conversion.
         const QVariant& v = it.value();
         if (field->material)
-            (*m).*field->material = v.toString();
+            (*m).*field->material = *static_cast<const QString*>(v.constData());
         else if (&field->key == &kTih)
-            m->toxicInhalationHazard = v.toString();
+            m->toxicInhalationHazard = *static_cast<const QString*>(v.constData());
         else if (&field->key == &kMayPolymerize)
             m->mayPolymerize = v.toBool();
     }
