@@ -4,6 +4,7 @@
 
 #include "history/PropertyList.h"
 
+#include <QElapsedTimer>
 #include <QTimeZone>
 
 using namespace qor;
@@ -74,20 +75,28 @@ TEST(PropertyList, UnsupportedValuesAndDamagedBytesGiveNone)
 }
 
 namespace {
-// A one-entry dictionary {key: value} in the binary form, both strings.
-QByteArray binaryDict(const QByteArray& key, const QByteArray& value)
+// A binary list of the given objects (marker and payload; references one
+// byte wide, offsets two), the first being the root.
+QByteArray binaryList(const QList<QByteArray>& objects)
 {
     QByteArray b("bplist00");
-    const char keyAt = char(b.size() + 3);
-    b.append("\xD1\x01\x02", 3);
-    b.append(char(0x50 | key.size())).append(key);
-    const char valueAt = char(b.size());
-    b.append(char(0x50 | value.size())).append(value);
-    const char table = char(b.size());
-    b.append(char(8)).append(keyAt).append(valueAt);
-    b.append(6, '\0').append(char(1)).append(char(1));
-    b.append(7, '\0').append(char(3)).append(8, '\0').append(7, '\0').append(table);
+    QByteArray table;
+    for (const QByteArray& o : objects) {
+        table.append(char(b.size() >> 8)).append(char(b.size() & 0xFF));
+        b.append(o);
+    }
+    const qsizetype tableAt = b.size();
+    b.append(table);
+    b.append(6, '\0').append(char(2)).append(char(1));
+    b.append(7, '\0').append(char(objects.size())).append(8, '\0');
+    b.append(6, '\0').append(char(tableAt >> 8)).append(char(tableAt & 0xFF));
     return b;
+}
+
+// {key: value}, both strings.
+QByteArray binaryDict(const QByteArray& key, const QByteArray& value)
+{
+    return binaryList({ QByteArray("\xD1\x01\x02", 3), char(0x50 | key.size()) + key, char(0x50 | value.size()) + value });
 }
 } // namespace
 
@@ -105,4 +114,39 @@ TEST(PropertyList, ANulIsRefusedInKeysOnly)
                            "</dict></plist>";
     EXPECT_FALSE(plist::parse(xml));
     EXPECT_TRUE(plist::parse(QByteArray(xml).replace("k&#0;", "k")));
+}
+
+TEST(PropertyList, SharedObjectsAreReadOnceAndLoopsAreRefused)
+{
+    // Each array holds the next one twice; the last holds a string.
+    QList<QByteArray> chain;
+    for (int i = 0; i < 100; ++i)
+        chain.append(QByteArray("\xA2", 1) + char(i + 1) + char(i + 1));
+    chain.append("\x54leaf");
+    QElapsedTimer timer;
+    timer.start();
+    const auto read = plist::parse(binaryList(chain));
+    ASSERT_TRUE(read);
+    EXPECT_LT(timer.elapsed(), 5000) << "2^100 paths, 101 objects";
+    QVariant v = *read;
+    for (int i = 0; i < 100; ++i)
+        v = v.toList().value(1);
+    EXPECT_EQ(v.toString(), "leaf");
+
+    EXPECT_FALSE(plist::parse(binaryList({ QByteArray("\xA1\x00", 2) }))) << "an array holding itself";
+    EXPECT_FALSE(plist::parse(binaryList({ QByteArray("\xA1\x01", 2), QByteArray("\xA1\x00", 2) })));
+    EXPECT_FALSE(plist::parse(binaryList({ QByteArray("\xA1\x05", 2) }))) << "a reference past the last object";
+    EXPECT_FALSE(plist::parse(binaryList({ QByteArray("\x5F\x10\x7F", 3) }))) << "a string longer than the bytes";
+    EXPECT_FALSE(plist::parse(binaryList({ QByteArray("\xD1\x01\x01", 3), QByteArray("\x10\x01", 2) })))
+        << "a key that is no string";
+}
+
+TEST(PropertyList, OtherWritersKindsAreRead)
+{
+    const auto set = plist::parse(binaryList({ QByteArray("\xC2\x01\x02", 3), "\x09", QByteArray("\x22\x40\x20\x00\x00", 5),
+                                               QByteArray("\x61\x00\xe9", 3) }));
+    ASSERT_TRUE(set) << "a set, a single-precision real, UTF-16 text";
+    EXPECT_EQ(set->toList(), QVariantList({ true, 2.5 }));
+    EXPECT_EQ(plist::parse(binaryList({ QByteArray("\x61\x00\xe9", 3) }))->toString(), QString::fromUtf8("é"));
+    EXPECT_FALSE(plist::parse(binaryList({ QByteArray("\x00", 1) }))) << "null has no Qt value here";
 }
