@@ -11,6 +11,7 @@
 #include "model/QORModel.h"
 
 #include <QDir>
+#include <QGuiApplication>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QWindow>
