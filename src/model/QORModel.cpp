@@ -298,7 +298,17 @@ void QORModel::loadMaterials()
     } levels[4];
     for (qsizetype i = firstNew; i < materials.size(); ++i) {
         const MaterialPtr& m = materials.at(i);
-        const QString lower = lowerPrefix(m->name);
+        // ASCII, the usual case, is lowered on the stack.
+        char16_t ascii[5];
+        const qsizetype take = std::min<qsizetype>(m->name.size(), 5);
+        bool isAscii = true;
+        for (qsizetype c = 0; c < take && isAscii; ++c) {
+            const char16_t u = m->name.at(c).unicode();
+            isAscii = u < 0x80;
+            ascii[c] = u >= 'A' && u <= 'Z' ? char16_t(u + ('a' - 'A')) : u;
+        }
+        const QString other = isAscii ? QString() : lowerPrefix(m->name);
+        const QStringView lower = isAscii ? QStringView(ascii, take) : QStringView(other);
         for (int k = 0; k <= 3; ++k) {
             const qsizetype len = std::max<qsizetype>(lower.size() <= k ? lower.size() - 1 : k, 0);
             const QStringView key = QStringView(lower).left(len);
