@@ -520,11 +520,29 @@ const QORModel::SharedOrders& QORModel::sharedOrders()
     }
     auto sortedBy = [n](const std::vector<int>& key, bool descending) {
         std::vector<int> order(static_cast<size_t>(n));
+        if (n == 0)
+            return order;
+        const auto [low, high] = std::minmax_element(key.begin(), key.end());
+        const qint64 range = qint64(*high) - qint64(*low) + 1;
+        if (range > 4 * qint64(n) + 1024) {
+            for (int i = 0; i < n; ++i)
+                order[size_t(i)] = i;
+            std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
+                return descending ? key[size_t(a)] > key[size_t(b)] : key[size_t(a)] < key[size_t(b)];
+            });
+            return order;
+        }
+        // Keys in a narrow range (guide numbers, UN numbers, most incident
+        // counts): a counting sort, stable like the comparison sort above.
+        const int base = *low;
+        const auto slot = [&](int k) { return size_t(descending ? qint64(*high) - k : qint64(k) - base); };
+        std::vector<int> start(size_t(range) + 1, 0);
+        for (const int k : key)
+            ++start[slot(k) + 1];
+        for (size_t b = 1; b < start.size(); ++b)
+            start[b] += start[b - 1];
         for (int i = 0; i < n; ++i)
-            order[size_t(i)] = i;
-        std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
-            return descending ? key[size_t(a)] > key[size_t(b)] : key[size_t(a)] < key[size_t(b)];
-        });
+            order[size_t(start[slot(key[size_t(i)])]++)] = i;
         return order;
     };
     orders.byGuide = sortedBy(guide, false);
