@@ -365,7 +365,8 @@ bool HistoryManager::setAsideUnreadableFile()
         }
         bool ok = false;
         const qint64 n = QStringView(name).mid(base.size() + 1).toLongLong(&ok);
-        if (ok && name.at(base.size()) == QLatin1Char('.'))
+        // Numbers no one would reach are names someone made up; ignored.
+        if (ok && name.at(base.size()) == QLatin1Char('.') && n < 1000000000)
             highest = std::max(highest, n);
     }
     bool moved = false;
