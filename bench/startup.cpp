@@ -1,11 +1,14 @@
 // Time to the first frame: the app against an empty Qt Quick window from the
-// same executable (same libraries), each in a fresh process.
+// same executable (same libraries), each in a fresh process. The app runs on
+// a scratch data folder and settings folder, never on the user's own: it
+// saves the history when it quits.
 #include "BenchSupport.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
 namespace {
@@ -22,11 +25,17 @@ void runToFirstFrame(benchmark::State& state, const QStringList& args)
         state.SkipWithError("qor is not built");
         return;
     }
+    static QTemporaryDir scratch;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.remove(QStringLiteral("QOR_DATA_DIR"));
+    env.insert(QStringLiteral("XDG_CONFIG_HOME"), scratch.filePath(QStringLiteral("config")));
+    const QStringList withScratch = QStringList{ QStringLiteral("--data-dir"), scratch.filePath(QStringLiteral("data")) } + args;
     for (auto _ : state) {
         QProcess p;
+        p.setProcessEnvironment(env);
         QElapsedTimer timer;
         timer.start();
-        p.start(exe, args);
+        p.start(exe, withScratch);
         p.waitForFinished(20000);
         state.SetIterationTime(double(timer.nsecsElapsed()) / 1e9);
     }

@@ -298,12 +298,6 @@ int main(int argc, char** argv)
         emit delegate->dialogRequested(title, message, button);
     });
 
-    // The history is written whenever the app is hidden and when it quits.
-    QObject::connect(&app, &QGuiApplication::applicationStateChanged, delegate, [delegate](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationHidden || state == Qt::ApplicationInactive)
-            delegate->saveData();
-    });
-    QObject::connect(&app, &QCoreApplication::aboutToQuit, delegate, &QORAppDelegate::saveData);
 
     QObject::connect(&engine, &QQmlApplicationEngine::objectCreationFailed, &app, [] { QCoreApplication::exit(1); },
                      Qt::QueuedConnection);
@@ -316,12 +310,8 @@ int main(int argc, char** argv)
         if (wh.size() == 2)
             window->resize(wh.at(0).toInt(), wh.at(1).toInt());
     }
-    // Windows hidden to the tray or minimised count as hidden.
-    if (window)
-        QObject::connect(window, &QWindow::visibilityChanged, delegate, [delegate](QWindow::Visibility v) {
-            if (v == QWindow::Hidden || v == QWindow::Minimized)
-                delegate->saveData();
-        });
+    // The history is written whenever the app is hidden and when it quits.
+    delegate->saveWhenHiddenOrQuitting(&app, window);
     if (parser.isSet(openTab))
         delegate->setCurrentTab(parser.value(openTab).toInt());
     if (parser.isSet(openPlacards))

@@ -66,18 +66,29 @@ HistoryManager& loadedHistory()
     return manager;
 }
 
-int viewCommand(Context& ctx, const QStringList& args)
+// One view, of the material `material ARG` shows first, or of the one among
+// them named with --name: opening a material is one view of one material.
+int viewCommand(Context& ctx, QStringList args)
 {
+    QString name;
+    bool named = false;
+    if (!takeOption(args, QStringLiteral("--name"), &name, &named))
+        return ctx.usage(QStringLiteral("--name needs a material name"));
     if (args.size() != 1)
         return ctx.usage(QStringLiteral("history view needs exactly one UN number or name"));
     QORModel& model = loadedModel();
     HistoryManager& manager = *HistoryManager::sharedInstance();
-    const MaterialList found = findMaterials(model, args.first());
-    for (const auto& m : found)
-        manager.addToHistory(m);
-    if (found.isEmpty() && !manager.importedLegacyHistory()) {
+    MaterialPtr viewed;
+    for (const MaterialPtr& m : findMaterials(model, args.first()))
+        if (!named || m->name.compare(name, Qt::CaseInsensitive) == 0) {
+            viewed = m;
+            break;
+        }
+    if (viewed)
+        manager.addToHistory(viewed);
+    if (!viewed && !manager.importedLegacyHistory()) {
         if (!ctx.json)
-            ctx.out << "No material matches " << args.first() << "\n";
+            ctx.out << "No material matches " << args.first() << (named ? " named " + name : QString()) << "\n";
         else
             ctx.printJson(QJsonArray());
         ctx.out.flush();
@@ -85,11 +96,10 @@ int viewCommand(Context& ctx, const QStringList& args)
     }
     save(ctx, manager);
     HistoryList entries;
-    for (const auto& m : found)
-        if (auto e = manager.historyObjectForKey(m->unId); e && !entries.contains(e))
-            entries.append(e);
+    if (viewed)
+        entries.append(manager.historyObjectForKey(viewed->unId));
     printEntries(ctx, entries);
-    return found.isEmpty() ? NothingFound : Found;
+    return viewed ? Found : NothingFound;
 }
 
 int historyCommand(Context& ctx, QStringList args)
@@ -133,7 +143,7 @@ int historyCommand(Context& ctx, QStringList args)
 
 const bool registered = registerCommand(
     { QStringLiteral("history"),
-      QStringLiteral("history view ARG | recent | most-viewed | all | clear   the viewed history (--data-dir holds it)"),
+      QStringLiteral("history view ARG [--name NAME] | recent | most-viewed | all | clear   the viewed history (--data-dir holds it)"),
       historyCommand });
 
 } // namespace

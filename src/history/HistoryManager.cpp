@@ -6,6 +6,7 @@
 #include "PropertyList.h"
 #include "UserPaths.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
@@ -24,6 +25,7 @@ const QString kMayPolymerize = QStringLiteral("mayPolymerize");
 const QString kTih = QStringLiteral("tih");
 const QString kViewCount = QStringLiteral("viewCount");
 const QString kLastViewDate = QStringLiteral("lastViewDate");
+const QString kWatchFlag = QStringLiteral("watchFlag");
 
 const QString& sortName(const HistoryObjectPtr& e)
 {
@@ -93,22 +95,87 @@ HistoryObject::HistoryObject(const MaterialPtr& m) : material(m)
         properties.insert(kTih, *m->toxicInhalationHazard);
 }
 
-HistoryObjectPtr HistoryObject::fromProperties(const QVariantMap& props)
+namespace {
+enum class FieldType { String, Bool, Integer, Date };
+
+// The keys an entry keeps, each with the one type it may have.
+// `material` names the partial material's string the value goes to.
+struct Field {
+    const QString& key;
+    FieldType type;
+    QString Material::*material = nullptr;
+};
+const Field kFields[] = {
+    { kUnId, FieldType::String, &Material::unId },
+    { kName, FieldType::String, &Material::name },
+    { kGuideId, FieldType::String, &Material::guideId },
+    { kPlacardId, FieldType::String, &Material::placardId },
+    { kMayPolymerize, FieldType::Bool },
+    { kTih, FieldType::String },
+    { kViewCount, FieldType::Integer },
+    { kLastViewDate, FieldType::Date },
+    { kWatchFlag, FieldType::Bool },
+};
+
+bool hasType(const QVariant& v, FieldType type)
 {
-    const QString unId = props.value(kUnId).toString();
-    if (unId.isEmpty())
+    switch (type) {
+    case FieldType::String:
+        return v.metaType().id() == QMetaType::QString;
+    case FieldType::Bool:
+        return v.metaType().id() == QMetaType::Bool;
+    case FieldType::Integer: {
+        const int id = v.metaType().id();
+        if (id == QMetaType::Int)
+            return true;
+        if (id != QMetaType::LongLong)
+            return false;
+        const qlonglong n = *static_cast<const qlonglong*>(v.constData());
+        return n >= std::numeric_limits<int>::min() && n <= std::numeric_limits<int>::max();
+    }
+    case FieldType::Date:
+        return v.metaType().id() == QMetaType::QDateTime && static_cast<const QDateTime*>(v.constData())->isValid();
+    }
+    return false;
+}
+} // namespace
+
+HistoryObjectPtr HistoryObject::fromProperties(const QVariantMap& props, bool* dropped)
+{
+    // One pass over the dictionary: each key is checked once and fills the
+    // partial material as it goes.
+    auto m = std::make_shared<Material>();
+    QStringList unknown;
+    for (auto it = props.constBegin(); it != props.constEnd(); ++it) {
+        const Field* field = nullptr;
+        for (const Field& f : kFields)
+            if (f.key == it.key()) {
+                field = &f;
+                break;
+            }
+        if (!field || !hasType(it.value(), field->type)) {
+            unknown.append(it.key());
+            continue;
+        }
+        // The type is checked: the text is taken without a conversion.
+        const QVariant& v = it.value();
+        if (field->material)
+            (*m).*field->material = *static_cast<const QString*>(v.constData());
+        else if (&field->key == &kTih)
+            m->toxicInhalationHazard = *static_cast<const QString*>(v.constData());
+        else if (&field->key == &kMayPolymerize)
+            m->mayPolymerize = v.toBool();
+    }
+    if (dropped)
+        *dropped = !unknown.isEmpty();
+    if (m->unId.isEmpty())
         return nullptr;
     auto entry = std::make_shared<HistoryObject>();
     entry->properties = props;
-    auto m = std::make_shared<Material>();
-    m->name = props.value(kName).toString();
-    m->unId = unId;
-    m->placardId = props.value(kPlacardId).toString();
-    m->guideId = props.value(kGuideId).toString();
-    if (props.contains(kTih))
-        m->toxicInhalationHazard = props.value(kTih).toString();
-    m->mayPolymerize = props.value(kMayPolymerize).toBool();
-    entry->material = m;
+    for (const QString& key : std::as_const(unknown))
+        entry->properties.remove(key);
+    entry->material = std::move(m);
+    entry->partialMaterial = true;
     return entry;
 }
 
@@ -201,6 +268,7 @@ HistoryObjectPtr HistoryManager::historyObjectForKey(const QString& unId) const
 
 void HistoryManager::loadHistory()
 {
+    m_loaded = true;
     const QString path = homeFilePath(QStringLiteral("Library"), QLatin1String(kHistoryFileName));
     QFile file(path);
     if (!file.exists()) {
@@ -219,16 +287,38 @@ void HistoryManager::loadHistory()
         return;
     }
     const QVariantList items = parsed->toList();
+    m_viewedHistory.objects.reserve(m_viewedHistory.objects.size() + items.size());
     for (const QVariant& item : items) {
-        HistoryObjectPtr entry =
-            item.metaType().id() == QMetaType::QVariantMap ? HistoryObject::fromProperties(item.toMap()) : nullptr;
-        if (!entry) {
+        bool dropped = false;
+        HistoryObjectPtr entry = item.metaType().id() == QMetaType::QVariantMap
+                                     ? HistoryObject::fromProperties(item.toMap(), &dropped)
+                                     : nullptr;
+        // Anything dropped would be lost by the next save: keep the file.
+        if (!entry || dropped)
             m_setAsideBeforeSave = true;
-            continue;
-        }
-        m_viewedHistory.objects.insert(entry->unId(), entry);
+        if (entry)
+            m_viewedHistory.objects.insert(entry->unId(), entry);
     }
     m_viewedHistory.clearSortCaches();
+}
+
+void HistoryManager::resolveMaterials(const MaterialList& materials)
+{
+    int partial = 0;
+    for (const HistoryObjectPtr& e : std::as_const(m_viewedHistory.objects))
+        partial += e->partialMaterial ? 1 : 0;
+    // One pass over the pack, one look-up per material; the first material
+    // with the entry's UN id and name wins, as in the list.
+    for (const MaterialPtr& m : materials) {
+        if (partial == 0)
+            break;
+        const auto it = m_viewedHistory.objects.constFind(m->unId);
+        if (it == m_viewedHistory.objects.constEnd() || !(*it)->partialMaterial || (*it)->name() != m->name)
+            continue;
+        (*it)->material = m;
+        (*it)->partialMaterial = false;
+        --partial;
+    }
 }
 
 void HistoryManager::loadVersion1History()
@@ -263,10 +353,29 @@ bool HistoryManager::setAsideUnreadableFile()
         return true;
     }
     // Never over an earlier unreadable file: each one is somebody's history.
-    QString target = path + QLatin1String(kUnreadableSuffix);
-    for (int n = 2; QFile::exists(target) && n < 1000; ++n)
-        target = path + QLatin1String(kUnreadableSuffix) + QLatin1Char('.') + QString::number(n);
-    if (QFile::exists(target) || !QFile::rename(path, target)) {
+    // Numbering goes on past the highest one there, however many there are.
+    const QFileInfo info(path);
+    const QString base = info.fileName() + QLatin1String(kUnreadableSuffix);
+    qint64 highest = 0;
+    const QStringList kept = info.dir().entryList({ base + QLatin1Char('*') }, QDir::Files | QDir::Hidden | QDir::System);
+    for (const QString& name : kept) {
+        if (name == base) {
+            highest = std::max<qint64>(highest, 1);
+            continue;
+        }
+        bool ok = false;
+        const qint64 n = QStringView(name).mid(base.size() + 1).toLongLong(&ok);
+        // Numbers no one would reach are names someone made up; ignored.
+        if (ok && name.at(base.size()) == QLatin1Char('.') && n < 1000000000)
+            highest = std::max(highest, n);
+    }
+    bool moved = false;
+    // A file that appears meanwhile takes its number; the next one is tried.
+    for (qint64 n = highest + 1; !moved && n <= highest + 100; ++n) {
+        const QString target = info.dir().filePath(n == 1 ? base : base + QLatin1Char('.') + QString::number(n));
+        moved = !QFile::exists(target) && QFile::rename(path, target);
+    }
+    if (!moved) {
         qWarning().noquote() << "history: cannot move the unreadable" << path << "aside; not saving over it";
         return false;
     }
@@ -276,6 +385,10 @@ bool HistoryManager::setAsideUnreadableFile()
 
 bool HistoryManager::saveHistory()
 {
+    // Before the file has been read, what is in memory is not the history:
+    // writing it would replace the user's file with next to nothing.
+    if (!m_loaded)
+        return false;
     if (m_setAsideBeforeSave && !setAsideUnreadableFile())
         return false;
     QVariantList entries;
@@ -300,7 +413,7 @@ QString homeFilePath(const QString& folder, const QString& fileName)
 
 bool serializePropertyList(const QVariant& value, const QString& path)
 {
-    const auto bytes = plist::serialize(value, plist::Format::Binary);
+    const auto bytes = plist::serialize(value);
     if (!bytes)
         return false;
     return writeFileAtomically(path, *bytes);

@@ -20,11 +20,15 @@ public:
     HistoryObject() = default;
     // A new entry for a first view: one view, dated now.
     explicit HistoryObject(const MaterialPtr& material);
-    // An entry read back from a saved dictionary.
-    static std::shared_ptr<HistoryObject> fromProperties(const QVariantMap& properties);
+    // An entry read back from a saved dictionary, keeping only the keys an
+    // entry has, each with its own type; *dropped says whether anything else
+    // was left out. None without a UN id.
+    static std::shared_ptr<HistoryObject> fromProperties(const QVariantMap& properties, bool* dropped = nullptr);
 
     QVariantMap properties;
     MaterialPtr material;
+    // True while `material` is the partial one made from the properties.
+    bool partialMaterial = false;
 
     QString unId() const { return properties.value(QStringLiteral("unId")).toString(); }
     QString name() const { return properties.value(QStringLiteral("name")).toString(); }
@@ -77,10 +81,15 @@ public:
 
     // Reads the history file; without one, imports the legacy archive once.
     void loadHistory();
+    // Gives entries read from disk the pack's own material with the same UN
+    // id and name; the others keep their partial material.
+    void resolveMaterials(const MaterialList& materials);
     void loadVersion1History();
     // Writes the history file. False when nothing could be written; that is
     // not reported to the user, and the previous file stays as it was.
+    // Nothing is written before loadHistory has run.
     bool saveHistory();
+    bool hasLoaded() const { return m_loaded; }
     // Binary property list into Library/filename, atomically.
     bool serialize(const QVariant& value, const QString& filename);
 
@@ -96,6 +105,7 @@ private:
     ViewedHistory m_viewedHistory;
     bool m_setAsideBeforeSave = false;
     bool m_importedLegacy = false;
+    bool m_loaded = false;
 };
 
 // The "%@/%@/%@" form of a user file path: home folder, folder name, file.

@@ -161,11 +161,18 @@ public:
             return stored;  // strings, numbers, data: stored as themselves
         if (depth > kMaxDepth)
             return fail(QStringLiteral("objects nested too deeply"));
+        // Objects referred to from many places are decoded once: an archive
+        // whose objects each refer twice to the next would otherwise take
+        // time exponential in its length.
+        if (const auto done = m_decoded.constFind(uid); done != m_decoded.constEnd())
+            return *done;
         if (m_inProgress.contains(uid))
             return fail(QStringLiteral("object %1 contains itself").arg(uid));
         m_inProgress.insert(uid);
         auto result = decodeObject(stored.toMap(), depth);
         m_inProgress.remove(uid);
+        if (result)
+            m_decoded.insert(uid, *result);
         return result;
     }
 
@@ -208,6 +215,7 @@ public:
 private:
     const QVariantList& m_objects;
     QSet<quint64> m_inProgress;
+    QHash<quint64, QVariant> m_decoded;
 
     std::nullopt_t fail(const QString& message)
     {
@@ -313,7 +321,7 @@ std::optional<QByteArray> archive(const QVariant& root, QString* error)
         { QStringLiteral("$top"), QVariantMap{ { QStringLiteral("root"), QVariant::fromValue(PlistUid{ 1 }) } } },
         { QStringLiteral("$objects"), encoder.objects },
     };
-    return plist::serialize(archiveDict, plist::Format::Binary, error);
+    return plist::serialize(archiveDict, error);
 }
 
 std::optional<QVariant> unarchive(const QByteArray& bytes, QString* error)

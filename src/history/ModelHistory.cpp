@@ -5,7 +5,9 @@ namespace qor {
 
 void QORModel::loadViewedHistory()
 {
-    HistoryManager::sharedInstance()->loadHistory();
+    HistoryManager* history = HistoryManager::sharedInstance();
+    history->loadHistory();
+    history->resolveMaterials(materials);
 }
 
 void QORModel::saveData()

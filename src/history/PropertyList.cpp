@@ -5,10 +5,12 @@
 #include <QDateTime>
 #include <QHash>
 #include <QRegularExpression>
-#include <cstring>
-#include <vector>
 #include <QTimeZone>
+#include <cmath>
+#include <cstring>
+#include <deque>
 #include <limits>
+#include <vector>
 #include <memory>
 #include <plist/plist.h>
 
@@ -59,6 +61,15 @@ Kind kindOf(const QVariant& value)
     }
 }
 
+// The value held, without QVariant's conversions (which copy through the
+// meta-type system); only for a variant known to hold exactly a T.
+template <typename T>
+const T& held(const QVariant& value)
+{
+    Q_ASSERT(value.metaType() == QMetaType::fromType<T>());
+    return *static_cast<const T*>(value.constData());
+}
+
 bool unsupported(const QVariant& value, QString* error)
 {
     if (error && error->isEmpty())
@@ -67,81 +78,33 @@ bool unsupported(const QVariant& value, QString* error)
     return false;
 }
 
-// Used for the XML form only; the binary form has its own writer below.
-Node toNode(const QVariant& value, QString* error)
-{
-    switch (kindOf(value)) {
-    case Kind::String:
-        return Node(plist_new_string(value.toString().toUtf8().constData()));
-    case Kind::Bool:
-        return Node(plist_new_bool(value.toBool() ? 1 : 0));
-    case Kind::Int:
-        // Two's complement: negative values read back as the same signed value.
-        return Node(plist_new_uint(quint64(value.toLongLong())));
-    case Kind::UInt:
-        return Node(plist_new_uint(value.toULongLong()));
-    case Kind::Real:
-        return Node(plist_new_real(value.toDouble()));
-    case Kind::Data: {
-        const QByteArray bytes = value.toByteArray();
-        return Node(plist_new_data(bytes.constData(), quint64(bytes.size())));
-    }
-    case Kind::Date: {
-        const qint64 ms = value.toDateTime().toMSecsSinceEpoch() - kReferenceDateMsecs;
-        const qint64 sec = ms >= 0 ? ms / 1000 : -((-ms + 999) / 1000);
-        if (sec < std::numeric_limits<int32_t>::min() || sec > std::numeric_limits<int32_t>::max())
-            break;
-        return Node(plist_new_date(int32_t(sec), int32_t((ms - sec * 1000) * 1000)));
-    }
-    case Kind::Array: {
-        Node array(plist_new_array());
-        for (const QVariant& item : value.toList()) {
-            Node child = toNode(item, error);
-            if (!child)
-                return {};
-            plist_array_append_item(array.get(), child.release());
-        }
-        return array;
-    }
-    case Kind::Dict: {
-        Node dict(plist_new_dict());
-        const QVariantMap map = value.toMap();
-        for (auto it = map.constBegin(); it != map.constEnd(); ++it) {
-            Node child = toNode(it.value(), error);
-            if (!child)
-                return {};
-            plist_dict_set_item(dict.get(), it.key().toUtf8().constData(), child.release());
-        }
-        return dict;
-    }
-    case Kind::Uid:
-        return Node(plist_new_uid(value.value<PlistUid>().value));
-    case Kind::Unsupported:
-        break;
-    }
-    unsupported(value, error);
-    return {};
-}
-
-// Binary form ("bplist00"), written directly: the library's writer spends
+// The binary form ("bplist00"), written directly: libplist's writer spends
 // most of its time uniquing objects, far too slow for a large history.
-// Strings, integers and booleans are written once and shared.
+// Short strings, integers and booleans are written once and shared. Objects are
+// gathered into one payload buffer and one reference list, then laid out
+// once the reference width is known.
 class BinaryWriter {
 public:
-    bool add(const QVariant& value, QString* error) { return collect(value, error).has_value(); }
+    bool add(const QVariant& value, QString* error)
+    {
+        if (value.metaType().id() == QMetaType::QVariantList)
+            m_strings.reserve(value.toList().size() + 64);
+        return collect(value, 0, error).has_value();
+    }
 
     QByteArray finish() const
     {
         const int refSize = bytesFor(quint64(m_objects.size()));
-        QByteArray out("bplist00");
-        out.reserve(m_payloadEstimate + qsizetype(m_objects.size()) * 4 + 40);
+        QByteArray out;
+        out.reserve(8 + m_payload.size() + qsizetype(m_refs.size()) * refSize + qsizetype(m_objects.size()) * 4 + 32);
+        out.append("bplist00", 8);
         std::vector<quint64> offsets;
         offsets.reserve(m_objects.size());
         for (const Object& o : m_objects) {
             offsets.push_back(quint64(out.size()));
-            out.append(o.bytes);
-            for (quint64 ref : o.refs)
-                appendBigEndian(out, ref, refSize);
+            out.append(m_payload.constData() + o.start, o.length);
+            for (quint32 i = 0; i < o.refCount; ++i)
+                appendBigEndian(out, m_refs[o.refStart + i], refSize);
         }
         const quint64 tableOffset = quint64(out.size());
         const int offsetSize = bytesFor(tableOffset);
@@ -158,14 +121,21 @@ public:
 
 private:
     struct Object {
-        QByteArray bytes;           // marker and payload
-        std::vector<quint64> refs;  // for arrays and dictionaries, after the payload
+        qsizetype start = 0;   // marker and payload in m_payload
+        qsizetype length = 0;
+        size_t refStart = 0;   // for arrays and dictionaries, in m_refs
+        quint32 refCount = 0;
     };
     std::vector<Object> m_objects;
-    QHash<QString, quint64> m_strings;
-    QHash<qint64, quint64> m_ints;
-    quint64 m_bools[2] = { ~0ULL, ~0ULL };
-    qsizetype m_payloadEstimate = 0;
+    QByteArray m_payload;
+    std::vector<quint32> m_refs;
+    // One scratch list per nesting level, reused: a container's references
+    // are complete only after its children have been gathered. A deque, so
+    // that a deeper level being added leaves the outer lists in place.
+    std::deque<std::vector<quint32>> m_scratch;
+    QHash<QString, quint32> m_strings;
+    QHash<qint64, quint32> m_ints;
+    quint32 m_bools[2] = { ~0U, ~0U };
 
     static int bytesFor(quint64 n)
     {
@@ -174,8 +144,10 @@ private:
 
     static void appendBigEndian(QByteArray& out, quint64 v, int size)
     {
-        for (int shift = (size - 1) * 8; shift >= 0; shift -= 8)
-            out.append(char((v >> shift) & 0xFF));
+        char bytes[8];
+        for (int i = 0; i < size; ++i)
+            bytes[i] = char((v >> ((size - 1 - i) * 8)) & 0xFF);
+        out.append(bytes, size);
     }
 
     static void appendInt(QByteArray& out, qint64 v)
@@ -208,120 +180,158 @@ private:
         appendBigEndian(out, bits, 8);
     }
 
-    quint64 push(QByteArray bytes)
+    // Starts an object whose bytes the caller appends to m_payload next.
+    quint32 begin()
     {
-        m_payloadEstimate += bytes.size();
-        m_objects.push_back(Object{ std::move(bytes), {} });
-        return quint64(m_objects.size() - 1);
+        m_objects.push_back(Object{ m_payload.size(), 0, 0, 0 });
+        return quint32(m_objects.size() - 1);
     }
-
-    quint64 string(const QString& s)
+    quint32 end(quint32 index)
     {
-        auto it = m_strings.constFind(s);
-        if (it != m_strings.constEnd())
-            return *it;
-        QByteArray bytes;
-        bool ascii = true;
-        for (QChar c : s)
-            ascii = ascii && c.unicode() < 0x80;
-        if (ascii) {
-            appendMarker(bytes, 0x50, quint64(s.size()));
-            bytes.append(s.toLatin1());
-        } else {
-            appendMarker(bytes, 0x60, quint64(s.size()));  // UTF-16 code units
-            for (QChar c : s)
-                appendBigEndian(bytes, c.unicode(), 2);
-        }
-        const quint64 index = push(std::move(bytes));
-        m_strings.insert(s, index);
+        m_objects[index].length = m_payload.size() - m_objects[index].start;
         return index;
     }
 
-    std::optional<quint64> collect(const QVariant& value, QString* error)
+    // Keys and short values (guide numbers, placard ids, marks) repeat in
+    // every entry and are shared; longer texts such as names rarely repeat,
+    // and are written as they come rather than hashed.
+    static constexpr qsizetype kSharedStringLength = 8;
+
+    quint32 string(const QString& s, bool key = false)
+    {
+        const bool shared = key || s.size() <= kSharedStringLength;
+        if (shared) {
+            const auto it = m_strings.constFind(s);
+            if (it != m_strings.constEnd())
+                return *it;
+        }
+        const quint32 index = begin();
+        bool ascii = true;
+        for (QChar c : s)
+            ascii = ascii && c.unicode() < 0x80;
+        appendMarker(m_payload, ascii ? 0x50 : 0x60, quint64(s.size()));  // UTF-16 counts code units
+        const qsizetype at = m_payload.size();
+        m_payload.resize(at + s.size() * (ascii ? 1 : 2));
+        char* out = m_payload.data() + at;
+        for (QChar c : s) {
+            if (!ascii)
+                *out++ = char(c.unicode() >> 8);
+            *out++ = char(c.unicode() & 0xFF);
+        }
+        end(index);
+        if (shared)
+            m_strings.insert(s, index);
+        return index;
+    }
+
+    std::vector<quint32>& scratch(int depth)
+    {
+        while (size_t(depth) >= m_scratch.size())
+            m_scratch.emplace_back();
+        std::vector<quint32>& refs = m_scratch[size_t(depth)];
+        refs.clear();
+        return refs;
+    }
+
+    // Completes a container whose marker is written: its references go last.
+    void setRefs(quint32 index, const std::vector<quint32>& refs)
+    {
+        m_objects[index].refStart = m_refs.size();
+        m_objects[index].refCount = quint32(refs.size());
+        m_refs.insert(m_refs.end(), refs.begin(), refs.end());
+    }
+
+    std::optional<quint32> collect(const QVariant& value, int depth, QString* error)
     {
         switch (kindOf(value)) {
         case Kind::String:
-            return string(value.toString());
+            return string(held<QString>(value));
         case Kind::Bool: {
             const bool b = value.toBool();
-            if (m_bools[b] == ~0ULL)
-                m_bools[b] = push(QByteArray(1, char(b ? 0x09 : 0x08)));
+            if (m_bools[b] == ~0U) {
+                m_bools[b] = begin();
+                m_payload.append(char(b ? 0x09 : 0x08));
+                end(m_bools[b]);
+            }
             return m_bools[b];
         }
         case Kind::Int:
         case Kind::UInt: {
-            const bool big = kindOf(value) == Kind::UInt && value.toULongLong() > quint64(std::numeric_limits<qint64>::max());
-            if (big) {  // sixteen bytes, the high half zero
-                QByteArray bytes(1, char(0x14));
-                appendBigEndian(bytes, 0, 8);
-                appendBigEndian(bytes, value.toULongLong(), 8);
-                return push(std::move(bytes));
+            if (kindOf(value) == Kind::UInt && value.toULongLong() > quint64(std::numeric_limits<qint64>::max())) {
+                const quint32 index = begin();  // sixteen bytes, the high half zero
+                m_payload.append(char(0x14));
+                appendBigEndian(m_payload, 0, 8);
+                appendBigEndian(m_payload, value.toULongLong(), 8);
+                return end(index);
             }
             const qint64 v = value.toLongLong();
-            auto it = m_ints.constFind(v);
+            const auto it = m_ints.constFind(v);
             if (it != m_ints.constEnd())
                 return *it;
-            QByteArray bytes;
-            appendInt(bytes, v);
-            const quint64 index = push(std::move(bytes));
-            m_ints.insert(v, index);
+            const quint32 index = begin();
+            appendInt(m_payload, v);
+            m_ints.insert(v, end(index));
             return index;
         }
         case Kind::Real: {
-            QByteArray bytes;
-            appendDouble(bytes, 0x23, value.toDouble());
-            return push(std::move(bytes));
+            const quint32 index = begin();
+            appendDouble(m_payload, 0x23, value.toDouble());
+            return end(index);
         }
         case Kind::Date: {
-            QByteArray bytes;
-            appendDouble(bytes, 0x33, Clock::secondsSinceReferenceDate(value.toDateTime()));
-            return push(std::move(bytes));
+            const quint32 index = begin();
+            appendDouble(m_payload, 0x33, Clock::secondsSinceReferenceDate(value.toDateTime()));
+            return end(index);
         }
         case Kind::Data: {
             const QByteArray data = value.toByteArray();
-            QByteArray bytes;
-            appendMarker(bytes, 0x40, quint64(data.size()));
-            bytes.append(data);
-            return push(std::move(bytes));
+            const quint32 index = begin();
+            appendMarker(m_payload, 0x40, quint64(data.size()));
+            m_payload.append(data);
+            return end(index);
         }
         case Kind::Uid: {
             const quint64 v = value.value<PlistUid>().value;
             const int size = bytesFor(v);
-            QByteArray bytes(1, char(0x80 | (size - 1)));
-            appendBigEndian(bytes, v, size);
-            return push(std::move(bytes));
+            const quint32 index = begin();
+            m_payload.append(char(0x80 | (size - 1)));
+            appendBigEndian(m_payload, v, size);
+            return end(index);
         }
         case Kind::Array: {
-            const QVariantList list = value.toList();
-            QByteArray bytes;
-            appendMarker(bytes, 0xA0, quint64(list.size()));
-            const quint64 index = push(std::move(bytes));
-            std::vector<quint64> refs;
-            refs.reserve(size_t(list.size()));
-            for (const QVariant& item : list) {
-                const auto ref = collect(item, error);
+            const QVariantList list = value.metaType().id() == QMetaType::QVariantList ? held<QVariantList>(value) : value.toList();
+            const quint32 index = begin();
+            appendMarker(m_payload, 0xA0, quint64(list.size()));
+            end(index);
+            std::vector<quint32>& refs = scratch(depth);
+            refs.resize(size_t(list.size()));
+            for (qsizetype i = 0; i < list.size(); ++i) {
+                const auto ref = collect(list.at(i), depth + 1, error);
                 if (!ref)
                     return std::nullopt;
-                refs.push_back(*ref);
+                refs[size_t(i)] = *ref;
             }
-            m_objects[index].refs = std::move(refs);
+            setRefs(index, refs);
             return index;
         }
         case Kind::Dict: {
-            const QVariantMap map = value.toMap();
-            QByteArray bytes;
-            appendMarker(bytes, 0xD0, quint64(map.size()));
-            const quint64 index = push(std::move(bytes));
-            std::vector<quint64> refs(size_t(map.size()) * 2);
+            const QVariantMap& map = held<QVariantMap>(value);
+            const quint32 index = begin();
+            appendMarker(m_payload, 0xD0, quint64(map.size()));
+            end(index);
+            // All keys, then all values.
+            std::vector<quint32>& refs = scratch(depth);
+            const size_t n = size_t(map.size());
+            refs.resize(n * 2);
             size_t i = 0;
             for (auto it = map.constBegin(); it != map.constEnd(); ++it, ++i) {
-                refs[i] = string(it.key());
-                const auto ref = collect(it.value(), error);
+                refs[i] = string(it.key(), true);
+                const auto ref = collect(it.value(), depth + 1, error);
                 if (!ref)
                     return std::nullopt;
-                refs[size_t(map.size()) + i] = *ref;
+                refs[n + i] = *ref;
             }
-            m_objects[index].refs = std::move(refs);
+            setRefs(index, refs);
             return index;
         }
         case Kind::Unsupported:
@@ -332,62 +342,219 @@ private:
     }
 };
 
-// libplist asserts (ending the process) when asked for a key whose text holds
-// a NUL, so such lists are refused before libplist sees them. Binary lists:
-// every string object is checked; XML lists: raw NULs and &#0; references.
-bool holdsNulInText(const QByteArray& bytes)
-{
-    if (!bytes.startsWith("bplist")) {
-        static const QRegularExpression nulReference(QStringLiteral("&#(0+|[xX]0+);"));
-        return bytes.contains('\0') || nulReference.match(QString::fromLatin1(bytes)).hasMatch();
+// Reads the binary form directly into Qt values; libplist's parser builds a
+// node tree first, which costs as much again. Every offset, count and
+// reference is checked against the bytes. Each object is converted once,
+// however often it is referred to (keys shared by every entry, or a damaged
+// list whose arrays each refer twice to the next); an object that contains
+// itself, or nesting deeper than any real file, fails the whole parse.
+class BinaryReader {
+public:
+    static constexpr int kMaxDepth = 512;
+
+    explicit BinaryReader(const QByteArray& bytes)
+        : m_b(reinterpret_cast<const uchar*>(bytes.constData())), m_size(quint64(bytes.size()))
+    {
     }
-    const qsizetype size = bytes.size();
-    if (size < 8 + 32)
-        return false;  // libplist refuses it
-    const auto* b = reinterpret_cast<const uchar*>(bytes.constData());
-    const auto readInt = [&](qsizetype at, int width) {
+
+    std::optional<QVariant> read()
+    {
+        if (m_size < 8 + 32 || std::memcmp(m_b, "bplist00", 8) != 0)
+            return std::nullopt;
+        m_end = m_size - 32;
+        const uchar* trailer = m_b + m_end;
+        m_offsetSize = trailer[6];
+        m_refSize = trailer[7];
+        m_count = be(m_end + 8, 8);
+        const quint64 top = be(m_end + 16, 8);
+        m_table = be(m_end + 24, 8);
+        if (m_offsetSize < 1 || m_offsetSize > 8 || m_refSize < 1 || m_refSize > 8 || m_table < 8 || m_table > m_end
+            || m_count == 0 || m_count > (m_end - m_table) / quint64(m_offsetSize) || top >= m_count)
+            return std::nullopt;
+        m_values.resize(size_t(m_count));
+        m_state.assign(size_t(m_count), Unread);
+        return object(top, 0);
+    }
+
+private:
+    enum State : uchar { Unread, Reading, Read };
+    const uchar* m_b;
+    quint64 m_size;
+    quint64 m_end = 0;    // where the trailer starts
+    quint64 m_table = 0;  // where the offset table starts
+    quint64 m_count = 0;
+    int m_offsetSize = 0;
+    int m_refSize = 0;
+    std::vector<QVariant> m_values;
+    std::vector<State> m_state;
+
+    quint64 be(quint64 at, int width) const
+    {
         quint64 v = 0;
         for (int i = 0; i < width; ++i)
-            v = v << 8 | b[at + i];
+            v = v << 8 | m_b[at + quint64(i)];
         return v;
-    };
-    const uchar* trailer = b + size - 32;
-    const int offsetSize = trailer[6];
-    const quint64 objects = readInt(size - 24, 8);
-    const quint64 table = readInt(size - 8, 8);
-    if (offsetSize < 1 || offsetSize > 8 || table >= quint64(size) || objects > quint64(size))
-        return false;
-    for (quint64 i = 0; i < objects; ++i) {
-        const quint64 entry = table + i * offsetSize;
-        if (entry + offsetSize > quint64(size) - 32)
-            break;
-        const quint64 at = readInt(qsizetype(entry), offsetSize);
-        if (at >= quint64(size))
-            continue;
-        const uchar marker = b[at];
-        if ((marker & 0xF0) != 0x50 && (marker & 0xF0) != 0x60)
-            continue;
-        quint64 length = marker & 0x0F;
-        quint64 start = at + 1;
-        if (length == 0x0F) {
-            if (start >= quint64(size) || (b[start] & 0xF0) != 0x10)
-                continue;
-            const int width = 1 << (b[start] & 0x0F);
-            if (width > 8 || start + 1 + width > quint64(size))
-                continue;
-            length = readInt(qsizetype(start + 1), width);
-            start += 1 + width;
-        }
-        const int unit = (marker & 0xF0) == 0x60 ? 2 : 1;
-        const quint64 end = std::min<quint64>(quint64(size), start + std::min<quint64>(length, quint64(size)) * unit);
-        for (quint64 p = start; p + unit <= end; p += unit)
-            if (b[p] == 0 && (unit == 1 || b[p + 1] == 0))
-                return true;
     }
-    return false;
+
+    // Whether `count` items of `unit` bytes fit between `at` and the trailer.
+    bool fits(quint64 at, quint64 count, quint64 unit) const { return at <= m_end && count <= (m_end - at) / unit; }
+
+    std::optional<QVariant> object(quint64 index, int depth)
+    {
+        if (index >= m_count || depth > kMaxDepth)
+            return std::nullopt;
+        switch (m_state[size_t(index)]) {
+        case Read:
+            return m_values[size_t(index)];
+        case Reading:
+            return std::nullopt;
+        case Unread:
+            break;
+        }
+        const quint64 at = be(m_table + index * quint64(m_offsetSize), m_offsetSize);
+        if (at < 8 || at >= m_end)
+            return std::nullopt;
+        m_state[size_t(index)] = Reading;
+        auto value = objectAt(at, depth);
+        if (!value)
+            return std::nullopt;
+        m_state[size_t(index)] = Read;
+        m_values[size_t(index)] = *value;
+        return value;
+    }
+
+    // The count after a marker: its low half, or an integer object after it.
+    bool count(quint64 at, quint64* n, quint64* start) const
+    {
+        *n = m_b[at] & 0x0F;
+        *start = at + 1;
+        if (*n != 0x0F)
+            return true;
+        if (*start >= m_end || (m_b[*start] & 0xF0) != 0x10 || (m_b[*start] & 0x0F) > 3)
+            return false;
+        const int width = 1 << (m_b[*start] & 0x0F);
+        if (!fits(*start + 1, quint64(width), 1))
+            return false;
+        *n = be(*start + 1, width);
+        *start += 1 + quint64(width);
+        return true;
+    }
+
+    std::optional<QVariant> objectAt(quint64 at, int depth)
+    {
+        const uchar marker = m_b[at];
+        const int low = marker & 0x0F;
+        quint64 n = 0, start = 0;
+        switch (marker >> 4) {
+        case 0x0:
+            if (marker == 0x08 || marker == 0x09)
+                return QVariant(marker == 0x09);
+            return std::nullopt;
+        case 0x1: {
+            if (low > 4 || !fits(at + 1, quint64(1) << low, 1))
+                return std::nullopt;
+            // Sixteen bytes: the low half, as libplist reads it.
+            const quint64 v = low == 4 ? be(at + 9, 8) : be(at + 1, 1 << low);
+            return QVariant(qlonglong(v));
+        }
+        case 0x2:
+            if (low == 2 && fits(at + 1, 4, 1)) {
+                const quint32 bits = quint32(be(at + 1, 4));
+                float f;
+                std::memcpy(&f, &bits, sizeof f);
+                return QVariant(double(f));
+            }
+            if (low == 3 && fits(at + 1, 8, 1))
+                return QVariant(realAt(at + 1));
+            return std::nullopt;
+        case 0x3: {
+            if (marker != 0x33 || !fits(at + 1, 8, 1))
+                return std::nullopt;
+            const double seconds = realAt(at + 1);
+            if (!std::isfinite(seconds) || std::abs(seconds) > 1e12)
+                return std::nullopt;
+            return QVariant(Clock::fromSecondsSinceReferenceDate(seconds));
+        }
+        case 0x4:
+            if (!count(at, &n, &start) || !fits(start, n, 1))
+                return std::nullopt;
+            return QVariant(QByteArray(reinterpret_cast<const char*>(m_b + start), qsizetype(n)));
+        case 0x5:
+            if (!count(at, &n, &start) || !fits(start, n, 1))
+                return std::nullopt;
+            return QVariant(QString::fromUtf8(reinterpret_cast<const char*>(m_b + start), qsizetype(n)));
+        case 0x6: {
+            if (!count(at, &n, &start) || !fits(start, n, 2))
+                return std::nullopt;
+            QString text(qsizetype(n), Qt::Uninitialized);
+            for (quint64 i = 0; i < n; ++i)
+                text[qsizetype(i)] = QChar(char16_t(be(start + 2 * i, 2)));
+            return QVariant(text);
+        }
+        case 0x8:
+            if (low > 7 || !fits(at + 1, quint64(low) + 1, 1))
+                return std::nullopt;
+            return QVariant::fromValue(PlistUid{ be(at + 1, low + 1) });
+        case 0xA:
+        case 0xC: {  // arrays, and sets read as arrays
+            if (!count(at, &n, &start) || !fits(start, n, quint64(m_refSize)))
+                return std::nullopt;
+            QVariantList list;
+            list.reserve(qsizetype(n));
+            for (quint64 i = 0; i < n; ++i) {
+                auto item = object(be(start + i * quint64(m_refSize), m_refSize), depth + 1);
+                if (!item)
+                    return std::nullopt;
+                list.append(std::move(*item));
+            }
+            return QVariant(std::move(list));
+        }
+        case 0xD: {  // all keys, then all values
+            if (!count(at, &n, &start) || n > (quint64(1) << 62) || !fits(start, n * 2, quint64(m_refSize)))
+                return std::nullopt;
+            QVariantMap map;
+            const quint64 values = start + n * quint64(m_refSize);
+            for (quint64 i = 0; i < n; ++i) {
+                const auto key = object(be(start + i * quint64(m_refSize), m_refSize), depth + 1);
+                if (!key || key->metaType().id() != QMetaType::QString)
+                    return std::nullopt;
+                // Such a key means nothing; libplist could not even read it.
+                const QString text = key->toString();
+                if (text.contains(QChar(0)))
+                    return std::nullopt;
+                auto value = object(be(values + i * quint64(m_refSize), m_refSize), depth + 1);
+                if (!value)
+                    return std::nullopt;
+                // Keys come sorted from most writers: inserting at the end
+                // then needs no search.
+                map.insert(map.cend(), text, std::move(*value));
+            }
+            return QVariant(std::move(map));
+        }
+        default:
+            return std::nullopt;
+        }
+    }
+
+    double realAt(quint64 at) const
+    {
+        const quint64 bits = be(at, 8);
+        double d;
+        std::memcpy(&d, &bits, sizeof d);
+        return d;
+    }
+};
+
+// libplist asserts (ending the process) when asked for the text of a key
+// that holds a NUL, so such XML lists are refused before it sees them. XML
+// never holds a raw NUL; a reference to one matters only in a key.
+bool xmlHoldsNulInKey(const QByteArray& bytes)
+{
+    static const QRegularExpression nulKey(QStringLiteral("<key>[^<]*&#(0+|[xX]0+);"));
+    return bytes.contains('\0') || nulKey.match(QString::fromLatin1(bytes)).hasMatch();
 }
 
-// Converts a parsed tree to Qt values. Nesting deeper than any real file
+// Converts libplist's tree (XML lists) to Qt values. Nesting deeper than any real file
 // fails the whole parse rather than the stack.
 class Reader {
 public:
@@ -522,38 +689,24 @@ private:
 
 } // namespace
 
-std::optional<QByteArray> serialize(const QVariant& value, Format format, QString* error)
+std::optional<QByteArray> serialize(const QVariant& value, QString* error)
 {
-    if (format == Format::Binary) {
-        BinaryWriter writer;
-        if (!writer.add(value, error))
-            return std::nullopt;
-        return writer.finish();
-    }
-    Node root = toNode(value, error);
-    if (!root)
+    BinaryWriter writer;
+    if (!writer.add(value, error))
         return std::nullopt;
-    char* out = nullptr;
-    uint32_t length = 0;
-    plist_to_xml(root.get(), &out, &length);
-    if (!out) {
-        if (error)
-            *error = QStringLiteral("the property list could not be encoded");
-        return std::nullopt;
-    }
-    QByteArray bytes(out, qsizetype(length));
-    plist_to_xml_free(out);
-    return bytes;
+    return writer.finish();
 }
 
 std::optional<QVariant> parse(const QByteArray& bytes)
 {
     if (bytes.isEmpty() || bytes.size() > qsizetype(std::numeric_limits<uint32_t>::max()))
         return std::nullopt;
-    if (holdsNulInText(bytes))
+    if (bytes.startsWith("bplist"))
+        return BinaryReader(bytes).read();
+    if (xmlHoldsNulInKey(bytes))
         return std::nullopt;
     plist_t root = nullptr;
-    plist_from_memory(bytes.constData(), uint32_t(bytes.size()), &root);
+    plist_from_xml(bytes.constData(), uint32_t(bytes.size()), &root);
     if (!root)
         return std::nullopt;
     Node holder(root);

@@ -1,5 +1,7 @@
 #pragma once
-// Property lists as Qt values, read and written through libplist.
+// Property lists as Qt values. The binary form is written and read here
+// (fast enough for a history of many thousands of entries); XML is read
+// through libplist.
 //   string  <-> QString        integer <-> qlonglong (int, uint also written)
 //   real    <-> double         boolean <-> bool
 //   date    <-> QDateTime      data    <-> QByteArray
@@ -20,12 +22,11 @@ struct PlistUid {
 
 namespace plist {
 
-enum class Format { Binary, Xml };
-
-// Serialises a value; none when it holds something a property list cannot
-// (the reason goes to *error).
-std::optional<QByteArray> serialize(const QVariant& value, Format format = Format::Binary, QString* error = nullptr);
-// Parses binary or XML; none when the bytes are not a property list.
+// Serialises a value as a binary property list; none when it holds something
+// a property list cannot (the reason goes to *error).
+std::optional<QByteArray> serialize(const QVariant& value, QString* error = nullptr);
+// Parses binary or XML; none when the bytes are not a property list, or not
+// one made of the kinds above.
 std::optional<QVariant> parse(const QByteArray& bytes);
 
 } // namespace plist

@@ -7,6 +7,7 @@
 #include <QSet>
 #include <QStringDecoder>
 #include <algorithm>
+#include <unordered_map>
 #include <cstdlib>
 
 Q_LOGGING_CATEGORY(lcQorMemory, "qor.memory", QtWarningMsg)
@@ -152,9 +153,11 @@ void QORModel::loadData()
     m_loadTimer.stop();
     m_isLoading = true;
     loadMaterials();
+    // Materials just read hold no caches: loadFilterWithData's release of
+    // them is left out here.
     for (const auto& filter : std::as_const(filters))
         if (!filter->filteredArray || filter->filteredArray->isEmpty())
-            loadFilterWithData(*filter);
+            fillFilter(*filter);
     loadViewedHistory();
     m_isLoading = false;
     emit modelLoadingStateChanged();
@@ -169,6 +172,37 @@ void QORModel::releaseUnneededMemory()
 
 // ---------------------------------------------------------------- materials
 
+namespace {
+// Lines and fields are cut by scanning, without lists of views per line.
+template <typename Each>
+void forEachPart(QStringView text, char16_t separator, Each each)
+{
+    qsizetype start = 0;
+    for (;;) {
+        const qsizetype end = text.indexOf(QChar(separator), start);
+        if (end < 0) {
+            each(text.mid(start));
+            return;
+        }
+        each(text.mid(start, end - start));
+        start = end + 1;
+    }
+}
+
+struct QStringHasher {
+    size_t operator()(const QString& s) const noexcept { return qHash(s); }
+};
+
+// The prefix index's keys of one name: 0..3 leading characters of its lower
+// case, short names using one character fewer than they have. Lower case can
+// only lengthen a text, so the first three characters of a long name's lower
+// case come from its first five characters.
+QString lowerPrefix(const QString& name)
+{
+    return name.size() > 5 ? QStringView(name).left(5).toString().toLower() : name.toLower();
+}
+} // namespace
+
 void QORModel::loadMaterials()
 {
     QFile file(Resources::path(QStringLiteral("chemicals_2024.csv")));
@@ -176,22 +210,34 @@ void QORModel::loadMaterials()
         return;
     const QByteArray bytes = file.readAll();
     const QString text = QString::fromUtf8(bytes);
+    m_sharedOrders.reset();
+
+    // The same texts for every material: translated once.
+    const QString waterReactiveText = L::tr("WATER REACTIVE MATERIAL");
+    const QString warfareText = L::tr("CHEMICAL WARFARE AGENT");
+    const QString tihText = L::tr("TOXIC INHALATION HAZARD");
+    const QString waterReactiveKey = QStringLiteral("waterReactive");
+    const QString warfareKey = QStringLiteral("chemicalWarefareAgent");
+    const QString tihKey = QStringLiteral("toxicInhalationHazard");
+    const QString polymerizeKey = QStringLiteral("mayPolymerize");
 
     Filter& all = *allFilter;
     MaterialList* previousSection = nullptr;
+    QChar previousLetter;
     int lineNumber = 0;
+    const qsizetype firstNew = materials.size();
     materials.reserve(materials.size() + bytes.count('\n') + 1);
-    for (QStringView line : QStringView(text).split(u'\n')) {
+    forEachPart(text, u'\n', [&](QStringView line) {
         ++lineNumber;
         QStringView fields[8];
         int count = 0;
-        for (QStringView f : line.split(u'^')) {
+        forEachPart(line, u'^', [&](QStringView f) {
             if (count < 8)
                 fields[count] = f;
             ++count;
-        }
+        });
         if (count < 6)
-            continue;
+            return;
         if (count == 6) {
             // Every data line must carry the seventh field; the data is broken.
             qCritical().noquote() << QStringLiteral("materials file line %1 has 6 fields").arg(lineNumber);
@@ -200,7 +246,7 @@ void QORModel::loadMaterials()
         }
         auto m = std::make_shared<Material>();
         const QStringView name = fields[0];
-        m->name = name.size() >= 4 ? capitalized(name.toString()) : name.toString();
+        m->name = name.size() >= 4 ? capitalized(name) : name.toString();
         m->placardId = fields[1].toString();
         QStringView guide = fields[2];
         if (guide.endsWith(u'P')) {
@@ -220,35 +266,64 @@ void QORModel::loadMaterials()
                 m->chemicalWarefareAgent = fields[6].toString();
         }
         if (m->waterReactive && !m->waterReactive->isEmpty())
-            m->qorAttributes.insert(QStringLiteral("waterReactive"), L::tr("WATER REACTIVE MATERIAL"));
+            m->qorAttributes.insert(waterReactiveKey, waterReactiveText);
         if (m->chemicalWarefareAgent && !m->chemicalWarefareAgent->isEmpty() && *m->chemicalWarefareAgent != QLatin1String("X")
             && *m->chemicalWarefareAgent != QLatin1String(" "))
-            m->qorAttributes.insert(QStringLiteral("chemicalWarefareAgent"), L::tr("CHEMICAL WARFARE AGENT"));
+            m->qorAttributes.insert(warfareKey, warfareText);
         if (m->toxicInhalationHazard && !m->toxicInhalationHazard->isEmpty())
-            m->qorAttributes.insert(QStringLiteral("toxicInhalationHazard"), L::tr("TOXIC INHALATION HAZARD"));
+            m->qorAttributes.insert(tihKey, tihText);
         // Deliberately false even when the guide carries the "P" suffix.
-        m->qorAttributes.insert(QStringLiteral("mayPolymerize"), false);
-        materials.append(m);
+        m->qorAttributes.insert(polymerizeKey, false);
 
         // Names not starting with a letter go where the previous material went.
         const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
-        if (first.isLetter())
+        if (first.isLetter() && (first != previousLetter || !previousSection)) {
             previousSection = &all.alphaSections[QString(first)];
+            previousLetter = first;
+        }
         if (previousSection)
             previousSection->append(m);
-    }
+        materials.append(std::move(m));
+    });
     all.invalidateSectionKeys();
 
     // Prefix index: keys of 0..3 leading characters; short names use length-1.
-    all.alphaIndex.clear();
-    all.alphaIndex.reserve(materials.size());
-    for (const auto& m : std::as_const(materials)) {
-        const QString lower = m->name.toLower();
+    // Neighbouring names mostly share their keys, so each level remembers its
+    // last list; lists are gathered where adding keys moves no list, then
+    // handed to the index.
+    std::unordered_map<QString, MaterialList, QStringHasher> lists;
+    struct Level {
+        QString key;
+        MaterialList* list = nullptr;
+    } levels[4];
+    for (qsizetype i = firstNew; i < materials.size(); ++i) {
+        const MaterialPtr& m = materials.at(i);
+        // ASCII, the usual case, is lowered on the stack.
+        char16_t ascii[5];
+        const qsizetype take = std::min<qsizetype>(m->name.size(), 5);
+        bool isAscii = true;
+        for (qsizetype c = 0; c < take && isAscii; ++c) {
+            const char16_t u = m->name.at(c).unicode();
+            isAscii = u < 0x80;
+            ascii[c] = u >= 'A' && u <= 'Z' ? char16_t(u + ('a' - 'A')) : u;
+        }
+        const QString other = isAscii ? QString() : lowerPrefix(m->name);
+        const QStringView lower = isAscii ? QStringView(ascii, take) : QStringView(other);
         for (int k = 0; k <= 3; ++k) {
-            const int len = lower.size() <= k ? int(lower.size()) - 1 : k;
-            all.alphaIndex[lower.left(std::max(len, 0))].append(m);
+            const qsizetype len = std::max<qsizetype>(lower.size() <= k ? lower.size() - 1 : k, 0);
+            const QStringView key = QStringView(lower).left(len);
+            Level& level = levels[k];
+            if (!level.list || level.key != key) {
+                level.key = key.toString();
+                level.list = &lists[level.key];
+            }
+            level.list->append(m);
         }
     }
+    all.alphaIndex.clear();
+    all.alphaIndex.reserve(qsizetype(lists.size()));
+    for (auto& [key, list] : lists)
+        all.alphaIndex.insert(key, std::move(list));
 }
 
 const QHash<QString, int>& QORModel::getMaterialsWithIncidents()
@@ -515,57 +590,138 @@ MaterialList QORModel::getMaterialsUsingFilter(const Filter& filter)
 void QORModel::loadFilterWithData(Filter& filter)
 {
     releaseUnneededMemory();
+    fillFilter(filter);
+}
+
+const QORModel::SharedOrders& QORModel::sharedOrders()
+{
+    if (m_sharedOrders && m_sharedOrders->count == materials.size())
+        return *m_sharedOrders;
+    SharedOrders& orders = m_sharedOrders.emplace();
+    const int n = int(materials.size());
+    orders.count = n;
+    // Sort keys computed once per material rather than in every comparison.
+    const size_t count = static_cast<size_t>(n);
+    std::vector<int> guide(count), incidents(count), unId(count);
+    for (int i = 0; i < n; ++i) {
+        const Material& m = *materials.at(i);
+        guide[size_t(i)] = leadingInt(m.guideId);
+        incidents[size_t(i)] = m.numIncidents();
+        unId[size_t(i)] = leadingInt(m.unId);
+    }
+    auto sortedBy = [n](const std::vector<int>& key, bool descending) {
+        std::vector<int> order(static_cast<size_t>(n));
+        if (n == 0)
+            return order;
+        const auto [low, high] = std::minmax_element(key.begin(), key.end());
+        const qint64 range = qint64(*high) - qint64(*low) + 1;
+        if (range > 4 * qint64(n) + 1024) {
+            for (int i = 0; i < n; ++i)
+                order[size_t(i)] = i;
+            std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
+                return descending ? key[size_t(a)] > key[size_t(b)] : key[size_t(a)] < key[size_t(b)];
+            });
+            return order;
+        }
+        // Keys in a narrow range (guide numbers, UN numbers, most incident
+        // counts): a counting sort, stable like the comparison sort above.
+        const int base = *low;
+        const auto slot = [&](int k) { return size_t(descending ? qint64(*high) - k : qint64(k) - base); };
+        std::vector<int> start(size_t(range) + 1, 0);
+        for (const int k : key)
+            ++start[slot(k) + 1];
+        for (size_t b = 1; b < start.size(); ++b)
+            start[b] += start[b - 1];
+        for (int i = 0; i < n; ++i)
+            order[size_t(start[slot(key[size_t(i)])]++)] = i;
+        return order;
+    };
+    orders.byGuide = sortedBy(guide, false);
+    orders.byIncidents = sortedBy(incidents, true);
+    orders.byUnId = sortedBy(unId, false);
+    return orders;
+}
+
+void QORModel::fillFilter(Filter& filter)
+{
     logMemory("before filter rebuild");
 
     filter.alphaSections.clear();
     filter.guideSections.clear();
     filter.unIdSections.clear();
     filter.filteredArray = getMaterialsUsingFilter(filter);
-    filter.incidentsSortedArray.clear();
-    filter.unIdSortedArray.clear();
-    filter.guideSortedArray.clear();
     const MaterialList& list = *filter.filteredArray;
 
     MaterialList* previous = nullptr;
+    QChar previousLetter;
     for (const auto& m : list) {
         const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
-        if (first.isLetter())
+        if (first.isLetter() && (first != previousLetter || !previous)) {
             previous = &filter.alphaSections[QString(first)];
+            previousLetter = first;
+        }
         if (previous)
             previous->append(m);
     }
 
-    // Sort keys computed once per material rather than in every comparison.
-    struct Keyed {
-        int key;
-        MaterialPtr m;
-    };
-    auto sortedBy = [&](auto keyOf, bool descending) {
-        std::vector<Keyed> v;
-        v.reserve(list.size());
-        for (const auto& m : list)
-            v.push_back({ keyOf(*m), m });
-        std::stable_sort(v.begin(), v.end(), [descending](const Keyed& a, const Keyed& b) {
-            return descending ? a.key > b.key : a.key < b.key;
-        });
+    // The filter's members, by their place among all materials; the whole
+    // list when the filter has every material.
+    // The members come in the materials' order: one walk along both finds them.
+    const SharedOrders& orders = sharedOrders();
+    const bool everything = list.size() == materials.size();
+    std::vector<char> member;
+    if (!everything) {
+        member.assign(size_t(materials.size()), 0);
+        qsizetype next = 0;
+        for (qsizetype i = 0; i < materials.size() && next < list.size(); ++i)
+            if (materials.at(i) == list.at(next)) {
+                member[size_t(i)] = 1;
+                ++next;
+            }
+        if (next != list.size()) {  // not in that order after all: look each one up
+            QSet<const Material*> members;
+            for (const auto& m : list)
+                members.insert(m.get());
+            for (qsizetype i = 0; i < materials.size(); ++i)
+                member[size_t(i)] = members.contains(materials.at(i).get());
+        }
+    }
+    auto restricted = [&](const std::vector<int>& order) {
         MaterialList out;
-        out.reserve(qsizetype(v.size()));
-        for (auto& k : v)
-            out.append(std::move(k.m));
+        out.reserve(list.size());
+        for (const int i : order)
+            if (everything || member[size_t(i)])
+                out.append(materials.at(i));
         return out;
     };
-    filter.guideSortedArray = sortedBy([](const Material& m) { return leadingInt(m.guideId); }, false);
-    for (const auto& m : std::as_const(filter.guideSortedArray))
-        filter.guideSections[m->guideId].append(m);
-    filter.incidentsSortedArray = sortedBy([](const Material& m) { return m.numIncidents(); }, true);
-    filter.unIdSortedArray = sortedBy([](const Material& m) { return leadingInt(m.unId); }, false);
+    filter.guideSortedArray = restricted(orders.byGuide);
+    filter.incidentsSortedArray = restricted(orders.byIncidents);
+    filter.unIdSortedArray = restricted(orders.byUnId);
 
+    // Sections: neighbours in a sorted list mostly share theirs, so the last
+    // one is kept rather than looked up again.
+    MaterialList* section = nullptr;
+    const QString* sectionKey = nullptr;
+    for (const auto& m : std::as_const(filter.guideSortedArray)) {
+        if (!section || *sectionKey != m->guideId) {
+            section = &filter.guideSections[m->guideId];
+            sectionKey = &m->guideId;
+        }
+        section->append(m);
+    }
+    section = nullptr;
+    int hundred = -1;
     for (const auto& m : std::as_const(filter.unIdSortedArray)) {
         int n = leadingInt(m->unId);
         if (m->chemicalWarefareAgent && *m->chemicalWarefareAgent == QLatin1String("Z"))
             n = 0;
-        const QString key = n == 0 ? QStringLiteral(" No Id") : QString::number((n / 100) * 100);
-        filter.unIdSections[key].append(m);
+        const int bucket = n == 0 ? -2 : (n / 100) * 100;
+        if (!section || bucket != hundred) {
+            const QString key = n == 0 ? QStringLiteral(" No Id") : QString::number(bucket);
+            section = &filter.unIdSections[key];
+            hundred = bucket;
+        }
+        section->append(m);
     }
     filter.invalidateSectionKeys();
     logMemory("after filter rebuild");

@@ -137,6 +137,16 @@ private:
     Database m_cfrDb;
     Database m_npgDb;
     std::optional<QHash<QString, int>> m_materialsWithIncidents;
+    // Every material's place in the three sorted orders, shared by all
+    // filters: a filter's stable order is the shared one restricted to its
+    // members, since its members keep the materials' order.
+    struct SharedOrders {
+        qsizetype count = 0;  // of materials
+        std::vector<int> byGuide, byIncidents, byUnId;
+    };
+    std::optional<SharedOrders> m_sharedOrders;
+    const SharedOrders& sharedOrders();
+    void fillFilter(Filter& filter);
     std::optional<MaterialList> m_loadingMaterials;
     std::optional<bool> m_packHasLargeSpillRows;
     QRecursiveMutex m_lock;

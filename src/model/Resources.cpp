@@ -88,20 +88,27 @@ int leadingInt(const QString& text)
     return int(negative ? -value : value);
 }
 
-QString capitalized(const QString& text)
+QString capitalized(QStringView text)
 {
-    QString out = text;
+    // Written in place: one allocation per text.
+    QString out(text.size(), Qt::Uninitialized);
+    QChar* o = out.data();
     bool startOfWord = true;
-    for (qsizetype i = 0; i < out.size(); ++i) {
-        const QChar c = out.at(i);
+    for (const QChar c : text) {
         if (c.isLetterOrNumber()) {
-            out[i] = startOfWord ? c.toUpper() : c.toLower();
+            *o++ = startOfWord ? c.toUpper() : c.toLower();
             startOfWord = false;
         } else {
+            *o++ = c;
             startOfWord = true;
         }
     }
     return out;
+}
+
+QString capitalized(const QString& text)
+{
+    return capitalized(QStringView(text));
 }
 
 } // namespace qor

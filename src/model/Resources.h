@@ -38,5 +38,6 @@ public:
 int leadingInt(const QString& text);
 // Word-by-word capitalisation: first letter of each word upper case, the rest lower.
 QString capitalized(const QString& text);
+QString capitalized(QStringView text);
 
 } // namespace qor

@@ -5,6 +5,7 @@
 #include "pages/GuideViewFactory.h"
 #include "pages/InfoViewFactory.h"
 
+#include <QGuiApplication>
 #include <QTimer>
 
 namespace qor {
@@ -144,6 +145,21 @@ void QORAppDelegate::saveData()
 {
     if (QORModel* model = QORModel::sharedInstance(false))
         model->saveData();
+}
+
+void QORAppDelegate::saveWhenHiddenOrQuitting(QGuiApplication* app, QWindow* window)
+{
+    connect(app, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationHidden || state == Qt::ApplicationInactive)
+            saveData();
+    });
+    connect(app, &QCoreApplication::aboutToQuit, this, &QORAppDelegate::saveData);
+    // Windows hidden to the tray or minimised count as hidden.
+    if (window)
+        connect(window, &QWindow::visibilityChanged, this, [this](QWindow::Visibility v) {
+            if (v == QWindow::Hidden || v == QWindow::Minimized)
+                saveData();
+        });
 }
 
 void QORAppDelegate::applicationDidReceiveMemoryWarning()

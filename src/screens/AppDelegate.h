@@ -6,8 +6,11 @@
 #include "MaterialRef.h"
 
 #include <QObject>
+#include <QWindow>
 #include <QQmlEngine>
 #include <QtQml/qqmlregistration.h>
+
+class QGuiApplication;
 
 namespace qor {
 
@@ -51,6 +54,9 @@ public:
     // A qor:// link from the command line or a second launch; always handled.
     Q_INVOKABLE bool openUrl(const QString& url);
     Q_INVOKABLE void saveData();
+    // Saves whenever the application is hidden or inactive, the window is
+    // hidden or minimised, and when the application quits.
+    void saveWhenHiddenOrQuitting(QGuiApplication* app, QWindow* window);
     Q_INVOKABLE void applicationDidReceiveMemoryWarning();
     // Creates the guide and info page builders; scheduled 0.1 s after launch.
     void loadGuideList();

@@ -85,3 +85,32 @@ TEST_F(HistoryCli, ClearEmptiesTheFileAndBadRequestsChangeNothing)
     EXPECT_EQ(run({ "--json", "history", "recent" }, &recent), 1);
     EXPECT_TRUE(recent.isEmpty());
 }
+
+namespace {
+const QStringList kTwoUnderOneNumber{ "AMMONIA SOLUTION^8^154^1005^^^", "AMMONIA, ANHYDROUS^2.3^125^1005^X^^",
+                                      "CHLORINE^2.3^124^1017^X^^" };
+}
+
+TEST_F(HistoryCli, AViewIsOneViewOfTheFirstMaterialShown)
+{
+    pack.setMaterials(kTwoUnderOneNumber);
+    QJsonArray shown;
+    ASSERT_EQ(run({ "--json", "history", "view", "1005" }, &shown), 0);
+    ASSERT_EQ(shown.size(), 1);
+    EXPECT_EQ(shown.at(0).toObject().value("name").toString(), "Ammonia Solution");
+    EXPECT_EQ(shown.at(0).toObject().value("viewCount").toInt(), 1) << "one view per command, not one per material";
+    ASSERT_EQ(run({ "--json", "history", "view", "1005" }, &shown), 0);
+    EXPECT_EQ(shown.at(0).toObject().value("viewCount").toInt(), 2);
+}
+
+TEST_F(HistoryCli, AViewCanNameWhichMaterialUnderTheNumber)
+{
+    pack.setMaterials(kTwoUnderOneNumber);
+    QJsonArray shown;
+    ASSERT_EQ(run({ "--json", "history", "view", "1005", "--name", "ammonia, anhydrous" }, &shown), 0);
+    ASSERT_EQ(shown.size(), 1);
+    EXPECT_EQ(shown.at(0).toObject().value("name").toString(), "Ammonia, Anhydrous");
+    EXPECT_EQ(shown.at(0).toObject().value("viewCount").toInt(), 1);
+    EXPECT_EQ(run({ "history", "view", "1005", "--name", "chlorine" }), 1) << "the name must be one of those shown";
+    EXPECT_EQ(run({ "history", "view", "1005", "--name" }), 2);
+}

@@ -117,39 +117,54 @@ TEST_F(HistoryTest, AlphabeticalOrderIsCachedUntilTheHistoryChanges)
     EXPECT_TRUE(history.mostViewed().isEmpty());
 }
 
-TEST_F(HistoryTest, SavedHistoryReloadsExactlyFromBinaryAndXml)
+TEST_F(HistoryTest, SavedHistoryReloadsExactly)
 {
+    manager.loadHistory();
     const MaterialPtr chlorine = markedChlorine();
     manager.addToHistory(chlorine, utc("2024-03-05T14:07:09Z"));
     manager.addToHistory(chlorine, utc("2024-03-06T08:00:00Z"));
     manager.addToHistory(makeMaterial("1005", "Ammonia, Anhydrous"), utc("2024-03-07T09:30:00Z"));
     history.objects.value("1005")->properties.insert("watchFlag", true);
     ASSERT_TRUE(manager.saveHistory());
-    const QByteArray binary = readBytes(historyFile());
-    ASSERT_TRUE(binary.startsWith("bplist00"));
+    ASSERT_TRUE(readBytes(historyFile()).startsWith("bplist00"));
 
-    const QByteArray xml = *plist::serialize(*plist::parse(binary), plist::Format::Xml);
-    for (const QByteArray& bytes : { binary, xml }) {
-        writeBytes(historyFile(), bytes);
-        HistoryManager reloaded;
-        reloaded.loadHistory();
-        ASSERT_EQ(reloaded.viewedHistory().objects.size(), 2);
-        for (const QString& unId : { QString("1005"), QString("1017") })
-            EXPECT_EQ(reloaded.historyObjectForKey(unId)->properties, manager.historyObjectForKey(unId)->properties);
-        const Material& partial = *reloaded.historyObjectForKey("1017")->material;
-        EXPECT_EQ(partial.name, "Chlorine");
-        EXPECT_EQ(partial.guideId, "124");
-        EXPECT_EQ(partial.placardId, "2.3");
-        EXPECT_EQ(partial.toxicInhalationHazard, "X");
-        EXPECT_TRUE(partial.mayPolymerize);
-        EXPECT_EQ(unIds(reloaded.viewedHistory().watching()), QStringList{ "1005" });
-        EXPECT_FALSE(reloaded.keepsUnreadableFile());
-    }
+    HistoryManager reloaded;
+    reloaded.loadHistory();
+    ASSERT_EQ(reloaded.viewedHistory().objects.size(), 2);
+    for (const QString& unId : { QString("1005"), QString("1017") })
+        EXPECT_EQ(reloaded.historyObjectForKey(unId)->properties, manager.historyObjectForKey(unId)->properties);
+    const Material& partial = *reloaded.historyObjectForKey("1017")->material;
+    EXPECT_EQ(partial.name, "Chlorine");
+    EXPECT_EQ(partial.guideId, "124");
+    EXPECT_EQ(partial.placardId, "2.3");
+    EXPECT_EQ(partial.toxicInhalationHazard, "X");
+    EXPECT_TRUE(partial.mayPolymerize);
+    EXPECT_EQ(unIds(reloaded.viewedHistory().watching()), QStringList{ "1005" });
+    EXPECT_FALSE(reloaded.keepsUnreadableFile());
     EXPECT_TRUE(dialogs.dialogs().isEmpty());
+}
+
+TEST_F(HistoryTest, AnXmlHistoryIsRead)
+{
+    writeBytes(historyFile(), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><array><dict>"
+                              "<key>unId</key><string>1017</string><key>name</key><string>Chlorine</string>"
+                              "<key>viewCount</key><integer>4</integer><key>tih</key><string>X</string>"
+                              "<key>lastViewDate</key><date>2024-03-05T14:07:09Z</date>"
+                              "<key>mayPolymerize</key><false/><key>watchFlag</key><true/>"
+                              "</dict></array></plist>\n");
+    manager.loadHistory();
+    const HistoryObjectPtr entry = manager.historyObjectForKey("1017");
+    ASSERT_TRUE(entry);
+    EXPECT_EQ(entry->viewCount(), 4);
+    EXPECT_EQ(entry->lastViewDate(), utc("2024-03-05T14:07:09Z"));
+    EXPECT_TRUE(entry->watchFlag());
+    EXPECT_EQ(entry->material->toxicInhalationHazard, "X");
+    EXPECT_FALSE(manager.keepsUnreadableFile());
 }
 
 TEST_F(HistoryTest, AnEmptyHistorySavesAnEmptyArray)
 {
+    manager.loadHistory();
     ASSERT_TRUE(manager.saveHistory());
     EXPECT_EQ(plist::parse(readBytes(historyFile()))->toList(), QVariantList());
 }
@@ -177,22 +192,72 @@ TEST_F(HistoryTest, AnUnreadableFileLoadsNothingAndIsKeptAsideNeverOverwritten)
     EXPECT_EQ(plist::parse(readBytes(historyFile() + ".unreadable.2"))->toMap().value("not"), "an array");
 }
 
-TEST_F(HistoryTest, HandEditedEntriesLoadWhatTheyCanAndTheFileIsKept)
+TEST_F(HistoryTest, HandEditedEntriesKeepOnlyWhatAnEntryHoldsAndTheFileIsKept)
 {
     const QVariantList entries{
         QVariantMap{ { "unId", "1005" }, { "name", "First" }, { "viewCount", 2 } },
         QVariantMap{ { "name", "No UN id" } },
         "not a dictionary",
-        QVariantMap{ { "unId", "1005" }, { "name", "Second" }, { "viewCount", "7" } },
+        QVariantMap{ { "unId", "1005" }, { "name", "Second" }, { "viewCount", "7" }, { "colour", "red" },
+                     { "watchFlag", 1 }, { "lastViewDate", utc("2024-03-05T14:07:09Z") },
+                     { "guideId", QVariantList{ "125" } } },
     };
-    writeBytes(historyFile(), *plist::serialize(entries, plist::Format::Xml));
+    const QByteArray file = *plist::serialize(entries);
+    writeBytes(historyFile(), file);
     manager.addToHistory(makeMaterial("2000", "Already here"));
     manager.loadHistory();
     EXPECT_EQ(history.objects.size(), 2) << "entries in memory stay unless replaced";
-    EXPECT_EQ(manager.historyObjectForKey("1005")->name(), "Second");
-    EXPECT_EQ(history.mostViewed().first()->viewCount(), 7);
+    const HistoryObjectPtr second = manager.historyObjectForKey("1005");
+    EXPECT_EQ(second->properties.keys(), QStringList({ "lastViewDate", "name", "unId" }))
+        << "unknown keys and values of the wrong type are dropped";
+    EXPECT_TRUE(second->material->guideId.isNull());
+    EXPECT_TRUE(manager.keepsUnreadableFile());
     ASSERT_TRUE(manager.saveHistory());
-    EXPECT_EQ(plist::parse(readBytes(historyFile() + ".unreadable"))->toList().size(), 4);
+    EXPECT_EQ(readBytes(historyFile() + ".unreadable"), file);
+    const QVariantList saved = plist::parse(readBytes(historyFile()))->toList();
+    ASSERT_EQ(saved.size(), 2);
+    for (const QVariant& entry : saved)
+        EXPECT_FALSE(entry.toMap().contains("colour"));
+}
+
+TEST_F(HistoryTest, AValueNoPropertyListCanHoldNeverReachesTheSavedEntries)
+{
+    // What the reader makes of a node kind it does not know.
+    bool dropped = false;
+    const auto entry = HistoryObject::fromProperties(
+        { { "unId", "1005" }, { "name", "Ammonia" }, { "tih", QVariant() }, { "viewCount", qlonglong(1) << 40 } }, &dropped);
+    ASSERT_TRUE(entry);
+    EXPECT_TRUE(dropped);
+    EXPECT_EQ(entry->properties.keys(), QStringList({ "name", "unId" }));
+    EXPECT_FALSE(entry->material->toxicInhalationHazard);
+    EXPECT_TRUE(plist::serialize(QVariantList{ entry->properties }));
+    EXPECT_FALSE(HistoryObject::fromProperties({ { "unId", 1005 } })) << "a UN id is text";
+}
+
+TEST_F(HistoryTest, UnreadableFilesAreSetAsideHoweverManyThereAre)
+{
+    for (int n = 1; n <= 999; ++n)
+        writeBytes(historyFile() + ".unreadable" + (n == 1 ? QString() : "." + QString::number(n)), "old");
+    writeBytes(historyFile() + ".unreadable.x", "not numbered");
+    writeBytes(historyFile(), "damaged");
+    manager.loadHistory();
+    manager.addToHistory(makeMaterial("1005", "Ammonia"));
+    ASSERT_TRUE(manager.saveHistory());
+    EXPECT_EQ(readBytes(historyFile() + ".unreadable.1000"), "damaged");
+    EXPECT_EQ(readBytes(historyFile() + ".unreadable.999"), "old");
+    EXPECT_EQ(plist::parse(readBytes(historyFile()))->toList().size(), 1);
+}
+
+TEST_F(HistoryTest, NothingIsSavedBeforeTheHistoryIsLoaded)
+{
+    const QByteArray file = *plist::serialize(QVariantList{ QVariantMap{ { "unId", "1017" }, { "name", "Chlorine" } } });
+    writeBytes(historyFile(), file);
+    EXPECT_FALSE(manager.saveHistory());
+    EXPECT_EQ(readBytes(historyFile()), file);
+    manager.loadHistory();
+    manager.addToHistory(makeMaterial("1005", "Ammonia"));
+    ASSERT_TRUE(manager.saveHistory());
+    EXPECT_EQ(plist::parse(readBytes(historyFile()))->toList().size(), 2);
 }
 
 TEST_F(HistoryTest, LegacyArchiveIsImportedOnceAtItsModificationTimeThenMoved)
@@ -261,4 +326,33 @@ TEST_F(HistoryTest, TheModelLoadsTheHistoryWhileLoadingAndSavesItWithItsData)
     delete HistoryManager::sharedInstance(false);
     EXPECT_EQ(plist::parse(readBytes(historyFile()))->toList().size(), 2);
     EXPECT_TRUE(QFile::exists(user.documents("model.dat")));
+}
+
+TEST_F(HistoryTest, EntriesFromDiskBecomeThePacksOwnMaterialWhenItStillHasIt)
+{
+    FixturePack pack;
+    pack.setMaterials({ "SODIUM^4.3^138^1428^^W^", "SODIUM^4.3^138^1428^^W^", "CHLORINE^2.3^124^1017^X^^" });
+    writeBytes(historyFile(), *plist::serialize(QVariantList{
+                                  QVariantMap{ { "unId", "1428" }, { "name", "Sodium" }, { "guideId", "138" } },
+                                  QVariantMap{ { "unId", "1017" }, { "name", "Chlorine, Renamed" } },
+                                  QVariantMap{ { "unId", "9999" }, { "name", "Gone From The Pack" }, { "guideId", "111" } },
+                              }));
+    delete HistoryManager::sharedInstance(false);
+    {
+        ModelFixture model;
+        const MaterialList& materials = QORModel::sharedInstance()->materials;
+        HistoryManager& shared = *HistoryManager::sharedInstance();
+        const HistoryObjectPtr sodium = shared.historyObjectForKey("1428");
+        ASSERT_TRUE(sodium);
+        EXPECT_EQ(sodium->material, materials.at(0)) << "the first material with that UN id and name";
+        EXPECT_EQ(sodium->material->waterReactive, "W");
+        EXPECT_FALSE(sodium->partialMaterial);
+        const HistoryObjectPtr renamed = shared.historyObjectForKey("1017");
+        EXPECT_TRUE(renamed->partialMaterial) << "another name is another material";
+        EXPECT_EQ(renamed->material->name, "Chlorine, Renamed");
+        const HistoryObjectPtr gone = shared.historyObjectForKey("9999");
+        EXPECT_TRUE(gone->partialMaterial);
+        EXPECT_EQ(gone->material->guideId, "111");
+    }
+    delete HistoryManager::sharedInstance(false);
 }

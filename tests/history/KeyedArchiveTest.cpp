@@ -4,6 +4,8 @@
 #include "history/KeyedArchive.h"
 #include "history/MaterialArchive.h"
 
+#include <QElapsedTimer>
+
 using namespace qor;
 
 namespace {
@@ -123,4 +125,28 @@ TEST(KeyedArchive, DamagedArchivesAreRejectedNotFollowed)
     }
     // A well-formed archive of something else is no legacy history.
     EXPECT_FALSE(MaterialViewedHistory::fromArchive(*keyedarchive::unarchive(archiveOf({ "$null", QVariantMap{ { "$class", ref(2) } }, cls }))));
+}
+
+TEST(KeyedArchive, SharedObjectsAreDecodedOnce)
+{
+    // Each array holds the next one twice: 2^100 paths, 100 objects.
+    constexpr int kDepth = 100;
+    const auto ref = [](quint64 n) { return QVariant::fromValue(PlistUid{ n }); };
+    QVariantList objects{ "$null", QVariantMap{ { "$classname", "NSArray" } } };
+    for (int i = 0; i < kDepth; ++i) {
+        const quint64 next = quint64(objects.size() + 1);
+        objects.append(QVariantMap{ { "$class", ref(1) }, { "NS.objects", QVariantList{ ref(next), ref(next) } } });
+    }
+    objects.append("leaf");
+    const QByteArray bytes = *plist::serialize(QVariantMap{
+        { "$objects", objects }, { "$top", QVariantMap{ { "root", ref(2) } } } });
+    QElapsedTimer timer;
+    timer.start();
+    const auto root = keyedarchive::unarchive(bytes);
+    ASSERT_TRUE(root);
+    EXPECT_LT(timer.elapsed(), 5000);
+    QVariant v = *root;
+    for (int i = 0; i < kDepth; ++i)
+        v = v.toList().value(1);
+    EXPECT_EQ(v.toString(), "leaf");
 }

@@ -1,9 +1,10 @@
-// The binary writer is our own; libplist, which reads every file, must read
-// back exactly what it wrote.
+// Values through the binary form and back, and bytes libplist must never be
+// handed.
 #include "HistoryTestSupport.h"
 
 #include "history/PropertyList.h"
 
+#include <QElapsedTimer>
 #include <QTimeZone>
 
 using namespace qor;
@@ -59,9 +60,9 @@ TEST(PropertyList, LargeTablesWidenReferencesAndOffsets)
 TEST(PropertyList, UnsupportedValuesAndDamagedBytesGiveNone)
 {
     QString error;
-    EXPECT_FALSE(plist::serialize(QVariantList{ 1, QVariant() }, plist::Format::Binary, &error));
+    EXPECT_FALSE(plist::serialize(QVariantList{ 1, QVariant() }, &error));
     EXPECT_FALSE(error.isEmpty());
-    EXPECT_FALSE(plist::serialize(QVariantMap{ { "d", QDateTime() } }, plist::Format::Xml));
+    EXPECT_FALSE(plist::serialize(QVariantMap{ { "d", QDateTime() } }));
     const QByteArray good = *plist::serialize(QVariantList{ "a", 1, QVariantMap{ { "k", 2.0 } } });
     for (qsizetype cut : { 0, 8, 20, int(good.size()) - 1 })
         EXPECT_FALSE(plist::parse(good.left(cut))) << cut;
@@ -71,4 +72,81 @@ TEST(PropertyList, UnsupportedValuesAndDamagedBytesGiveNone)
     QByteArray corrupt = good;
     corrupt[corrupt.size() - 1] = char(0x7f);  // offset table points past the end
     EXPECT_FALSE(plist::parse(corrupt));
+}
+
+namespace {
+// A binary list of the given objects (marker and payload; references one
+// byte wide, offsets two), the first being the root.
+QByteArray binaryList(const QList<QByteArray>& objects)
+{
+    QByteArray b("bplist00");
+    QByteArray table;
+    for (const QByteArray& o : objects) {
+        table.append(char(b.size() >> 8)).append(char(b.size() & 0xFF));
+        b.append(o);
+    }
+    const qsizetype tableAt = b.size();
+    b.append(table);
+    b.append(6, '\0').append(char(2)).append(char(1));
+    b.append(7, '\0').append(char(objects.size())).append(8, '\0');
+    b.append(6, '\0').append(char(tableAt >> 8)).append(char(tableAt & 0xFF));
+    return b;
+}
+
+// {key: value}, both strings.
+QByteArray binaryDict(const QByteArray& key, const QByteArray& value)
+{
+    return binaryList({ QByteArray("\xD1\x01\x02", 3), char(0x50 | key.size()) + key, char(0x50 | value.size()) + value });
+}
+} // namespace
+
+TEST(PropertyList, ANulIsRefusedInKeysOnly)
+{
+    const auto plain = plist::parse(binaryDict("k", "ab"));
+    ASSERT_TRUE(plain) << "the hand-made list is well formed";
+    EXPECT_EQ(plain->toMap().value("k").toString(), "ab");
+    const auto inValue = plist::parse(binaryDict("k", QByteArray("a\0b", 3)));
+    ASSERT_TRUE(inValue) << "a NUL in a value does libplist no harm";
+    EXPECT_TRUE(inValue->toMap().value("k").toString().startsWith("a"));
+    EXPECT_FALSE(plist::parse(binaryDict(QByteArray("k\0", 2), "ab")));
+
+    const QByteArray xml = "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>k&#0;</key><string>a</string>"
+                           "</dict></plist>";
+    EXPECT_FALSE(plist::parse(xml));
+    EXPECT_TRUE(plist::parse(QByteArray(xml).replace("k&#0;", "k")));
+}
+
+TEST(PropertyList, SharedObjectsAreReadOnceAndLoopsAreRefused)
+{
+    // Each array holds the next one twice; the last holds a string.
+    QList<QByteArray> chain;
+    for (int i = 0; i < 100; ++i)
+        chain.append(QByteArray("\xA2", 1) + char(i + 1) + char(i + 1));
+    chain.append("\x54leaf");
+    QElapsedTimer timer;
+    timer.start();
+    const auto read = plist::parse(binaryList(chain));
+    ASSERT_TRUE(read);
+    EXPECT_LT(timer.elapsed(), 5000) << "2^100 paths, 101 objects";
+    QVariant v = *read;
+    for (int i = 0; i < 100; ++i)
+        v = v.toList().value(1);
+    EXPECT_EQ(v.toString(), "leaf");
+
+    EXPECT_FALSE(plist::parse(binaryList({ QByteArray("\xA1\x00", 2) }))) << "an array holding itself";
+    EXPECT_FALSE(plist::parse(binaryList({ QByteArray("\xA1\x01", 2), QByteArray("\xA1\x00", 2) })));
+    EXPECT_FALSE(plist::parse(binaryList({ QByteArray("\xA1\x05", 2) }))) << "a reference past the last object";
+    EXPECT_FALSE(plist::parse(binaryList({ QByteArray("\x5F\x10\x7F", 3) }))) << "a string longer than the bytes";
+    EXPECT_FALSE(plist::parse(binaryList({ QByteArray("\xD1\x01\x01", 3), QByteArray("\x10\x01", 2) })))
+        << "a key that is no string";
+}
+
+TEST(PropertyList, OtherWritersKindsAreRead)
+{
+    const auto set = plist::parse(binaryList({ QByteArray("\xC2\x01\x02", 3), "\x09", QByteArray("\x22\x40\x20\x00\x00", 5),
+                                               QByteArray("\x61\x00\xe9", 3) }));
+    ASSERT_TRUE(set) << "a set, a single-precision real, UTF-16 text";
+    EXPECT_EQ(set->toList(), QVariantList({ true, 2.5 }));
+    EXPECT_EQ(plist::parse(binaryList({ QByteArray("\x61\x00\xe9", 3) }))->toString(), QString::fromUtf8("é"));
+    EXPECT_FALSE(plist::parse(binaryList({ QByteArray("\x00", 1) }))) << "null has no Qt value here";
 }

@@ -195,3 +195,28 @@ TEST(SharedInstanceDeathTest, MissingDatabaseAbortsNamingTheFile)
     pack.writeFile("cfr49.db", "this is not a database");
     EXPECT_DEATH({ ModelFixture f(false); }, "cannot open database .*cfr49.db");
 }
+
+// Every filter's three orders are the stable sorts of its own members, ties
+// in file order, whether the filter has all materials or a few.
+TEST_F(Filters, EveryFilterSortsItsOwnMembersStably)
+{
+    const auto stableBy = [](MaterialList list, auto key, bool descending) {
+        std::stable_sort(list.begin(), list.end(), [&](const MaterialPtr& a, const MaterialPtr& b) {
+            return descending ? key(*a) > key(*b) : key(*a) < key(*b);
+        });
+        return names(list);
+    };
+    const auto guide = [](const Material& m) { return leadingInt(m.guideId); };
+    const auto incidents = [](const Material& m) { return m.numIncidents(); };
+    const auto unId = [](const Material& m) { return leadingInt(m.unId); };
+    model->tihFilter->hasIncidents = true;
+    model->loadFilterWithData(*model->tihFilter);
+    for (const auto& filter : std::as_const(model->filters)) {
+        SCOPED_TRACE(filter->categoryAbbrev.toStdString());
+        const MaterialList& members = *filter->filteredArray;
+        EXPECT_EQ(names(filter->guideSortedArray), stableBy(members, guide, false));
+        EXPECT_EQ(names(filter->incidentsSortedArray), stableBy(members, incidents, true));
+        EXPECT_EQ(names(filter->unIdSortedArray), stableBy(members, unId, false));
+    }
+    EXPECT_EQ(names(model->tihFilter->incidentsSortedArray), QStringList({ "Chlorine", "Ammonia, Anhydrous" }));
+}

@@ -159,3 +159,27 @@ TEST(MaterialsFile, ClassAndDescriptionFromTheChemistryDatabase)
     m->loadWikipediaDescriptions();
     EXPECT_EQ(m->descriptions.value("1090"), "second");
 }
+
+TEST(MaterialsFile, PrefixKeysAreThoseOfTheWholeNameInLowerCase)
+{
+    // Names whose lower case differs from letter-by-letter ASCII, is longer
+    // than the name, or is short; neighbours share keys, then stop sharing.
+    const QStringList given{ "ÉTHER DIÉTHYLIQUE", "ÉTHANOL", "İSOPRENE", "İS", "ÆB", "AB", "ABCDEF", "ABCXYZ", "ABD" };
+    QStringList lines;
+    for (const QString& n : given)
+        lines << n + "^3^127^1090^^^";
+    FixturePack pack;
+    pack.setMaterials(lines);
+    ModelFixture model;
+    QORModel* m = QORModel::sharedInstance();
+    QHash<QString, QStringList> expected;
+    for (const auto& material : m->materials) {
+        const QString lower = material->name.toLower();
+        for (int k = 0; k <= 3; ++k)
+            expected[lower.left(std::max<qsizetype>(lower.size() <= k ? lower.size() - 1 : k, 0))] << material->name;
+    }
+    const auto& index = m->allFilter->alphaIndex;
+    EXPECT_EQ(index.size(), expected.size());
+    for (auto it = expected.constBegin(); it != expected.constEnd(); ++it)
+        EXPECT_EQ(qor::test::names(index.value(it.key())), it.value()) << it.key().toStdString();
+}

@@ -111,6 +111,7 @@ TEST(NothingLost, AHistoryWriteThatFailsHalfwayLeavesThePreviousFile)
         SCOPED_TRACE(added);
         UserRoot user;
         HistoryManager manager;
+        manager.loadHistory();
         manager.addToHistory(material("1005", "Ammonia"));
         ASSERT_TRUE(manager.saveHistory());
         const QByteArray before = readBytes(user.historyFile());
@@ -220,6 +221,7 @@ TEST(OwnerOnly, UserFoldersAndFilesAreTheOwnersAloneWhateverTheUmask)
     FixturePack pack;
     test::writePdf(pack.path("box.pdf"), { QSizeF(40, 20) });
     HistoryManager manager;
+    manager.loadHistory();
     manager.addToHistory(material("1005", "Ammonia"));
     ASSERT_TRUE(manager.saveHistory());
     ASSERT_FALSE(ImageCreations::imageWithPDFURL(QUrl::fromLocalFile(pack.path("box.pdf")), QSizeF(40, 20)).isNull());

@@ -5,9 +5,16 @@
 #include "AppLinks.h"
 #include "FilterController.h"
 #include "SearchByIdController.h"
+#include "history/HistoryManager.h"
+#include "history/PropertyList.h"
+#include "history/UserPaths.h"
 #include "model/QORModel.h"
 
+#include <QDir>
+#include <QGuiApplication>
 #include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 using namespace qor;
@@ -129,4 +136,51 @@ TEST_F(ShellTest, FilterScreenSwitchDoneAndCategories)
     categories.select(1);
     EXPECT_EQ(model->currentFilter.get(), before) << "the same filter object, with another letter";
     EXPECT_EQ(model->currentFilter->categoryAbbrev, "M");
+}
+
+// The shell's save on hide and quit, before and after the history has loaded.
+TEST(SaveWhenHidden, NothingReplacesTheHistoryFileUntilItHasLoaded)
+{
+    FixturePack pack;
+    pack.setMaterials({ "AMMONIA, ANHYDROUS^2.3^125^1005^X^^" });
+    QTemporaryDir user;
+    UserPaths::setDataDir(user.path());
+    QDir().mkpath(user.filePath("Library"));
+    const QString file = user.filePath("Library/viewedHistory.dat");
+    const QByteArray saved = *plist::serialize(QVariantList{ QVariantMap{ { "unId", "1017" }, { "name", "Chlorine" } } });
+    const auto contents = [&file] {
+        QFile f(file);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    };
+    {
+        QFile f(file);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(saved);
+    }
+    delete HistoryManager::sharedInstance(false);
+    ModelFixture model(false);  // created; its loading is still scheduled
+    QORAppDelegate* app = QORAppDelegate::sharedInstance();
+    QWindow window;
+    app->saveWhenHiddenOrQuitting(qGuiApp, &window);
+
+    emit qGuiApp->applicationStateChanged(Qt::ApplicationHidden);
+    emit qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+    emit window.visibilityChanged(QWindow::Minimized);
+    QMetaObject::invokeMethod(qGuiApp, "aboutToQuit");
+    EXPECT_EQ(contents(), saved) << "a save before loading leaves the user's file alone";
+
+    QORModel::sharedInstance()->loadData();
+    HistoryManager::sharedInstance()->addToHistory(QORModel::sharedInstance()->materials.first());
+    emit window.visibilityChanged(QWindow::Hidden);
+    EXPECT_EQ(plist::parse(contents())->toList().size(), 2) << "once loaded, hiding saves old and new views";
+    auto acetone = std::make_shared<Material>();
+    acetone->unId = "1090";
+    acetone->name = "Acetone";
+    HistoryManager::sharedInstance()->addToHistory(acetone);
+    QMetaObject::invokeMethod(qGuiApp, "aboutToQuit");
+    EXPECT_EQ(plist::parse(contents())->toList().size(), 3) << "and so does quitting";
+
+    QObject::disconnect(qGuiApp, nullptr, app, nullptr);
+    delete HistoryManager::sharedInstance(false);
+    UserPaths::setDataDir(QString());
 }
