@@ -1,8 +1,10 @@
-// qor-cli zone: the protective-action zone of one material as SVG or PNG.
+// qor-cli zone and sheet: the protective-action zone of one material as SVG
+// or PNG, and the one-page incident sheet as PDF.
 #include "Cli.h"
 #include "MaterialJson.h"
 
 #include "model/QORModel.h"
+#include "pages/IncidentSheet.h"
 #include "pages/ProtectiveZone.h"
 
 #include <QBuffer>
@@ -61,6 +63,51 @@ bool takeZoneOptions(Context& ctx, QStringList& args, ZoneOptions* o, int* statu
     return true;
 }
 
+// The material named by the one argument left; null after reporting it.
+MaterialPtr materialArg(Context& ctx, QORModel& model, const QString& arg)
+{
+    const MaterialList found = findMaterials(model, arg);
+    if (found.isEmpty())
+        ctx.err << "No material matches " << arg << Qt::endl;
+    return found.value(0);
+}
+
+int sheetCommand(Context& ctx, QStringList args)
+{
+    ZoneOptions o;
+    int status = 0;
+    if (!takeZoneOptions(ctx, args, &o, &status))
+        return status;
+    SheetOptions options;
+    QString out, paper;
+    bool hasPaper = false;
+    if (!takeOption(args, QStringLiteral("--name"), &options.preparedBy) || !takeOption(args, QStringLiteral("-o"), &out)
+        || !takeOption(args, QStringLiteral("--paper"), &paper, &hasPaper))
+        return ctx.usage(QStringLiteral("an option is missing its value"));
+    if (args.size() != 1 || out.isEmpty())
+        return ctx.usage(QStringLiteral("sheet needs one UN number or name and -o FILE.pdf"));
+    if (hasPaper) {
+        if (paper.compare(QLatin1String("a4"), Qt::CaseInsensitive) == 0)
+            options.pageSize = QPageSize::A4;
+        else if (paper.compare(QLatin1String("letter"), Qt::CaseInsensitive) == 0)
+            options.pageSize = QPageSize::Letter;
+        else
+            return ctx.usage(QStringLiteral("--paper is a4 or letter, not '%1'").arg(paper));
+    }
+    options.zone = o;
+    QORModel& model = loadedModel();
+    const MaterialPtr m = materialArg(ctx, model, args.first());
+    if (!m)
+        return NothingFound;
+    QString error;
+    if (!IncidentSheet::write(out, model, *m, options, &error)) {
+        ctx.err << error << Qt::endl;
+        return UsageError;
+    }
+    ctx.out << out << Qt::endl;
+    return Found;
+}
+
 int zoneCommand(Context& ctx, QStringList args)
 {
     ZoneOptions o;
@@ -79,12 +126,10 @@ int zoneCommand(Context& ctx, QStringList args)
         return ctx.usage(QStringLiteral("--size is a width in pixels from 64 to 8192"));
 
     QORModel& model = loadedModel();
-    const MaterialList found = findMaterials(model, args.first());
-    if (found.isEmpty()) {
-        ctx.err << "No material matches " << args.first() << Qt::endl;
+    const MaterialPtr found = materialArg(ctx, model, args.first());
+    if (!found)
         return NothingFound;
-    }
-    Material& m = *found.first();
+    Material& m = *found;
     const QString title = QStringLiteral("UN%1 %2").arg(m.unId, m.name);
     QString why;
     const auto d = ProtectiveZone::distancesFor(model.isolationDistancesForMaterial(m), ProtectiveZone::containerRows(m), o, &why);
@@ -110,6 +155,10 @@ int zoneCommand(Context& ctx, QStringList args)
                 << d->protective << " " << d->protectiveUnit() << Qt::endl;
     return d ? Found : NothingFound;
 }
+
+const bool sheetRegistered = registerCommand(
+    { QStringLiteral("sheet"),
+      QStringLiteral("sheet ID [--name NAME] [--paper a4|letter] [zone options] -o FILE.pdf   the one-page incident sheet"), sheetCommand });
 
 const bool registered = registerCommand(
     { QStringLiteral("zone"),
