@@ -2,6 +2,7 @@
 
 #include "model/QORModel.h"
 #include "model/Resources.h"
+#include "pages/ProtectiveZone.h"
 
 #include <QSettings>
 
@@ -51,6 +52,12 @@ const ContainerRow k1079[] = {
     { QT_TRANSLATE_NOOP("QOR", "Multiple ton cylinders"), "500,1500,5.2,3.3,2.2,1.4,1.7,1.1,7.4,4.3,4.0,2.4,2.7,1.7" },
     { QT_TRANSLATE_NOOP("QOR", "Multiple Small Cylinders or single ton cylinder"), "200,600,3.1,1.9,1.5,0.9,1.1,0.7,5.6,3.5,2.4,1.5,1.5,0.9" },
 };
+
+// The zone figure and the incident sheet read the same container table.
+const bool containerSourceRegistered = [] {
+    ProtectiveZone::setContainerSource(&IsolationTableDelegate::largeSpillIsoDistancesForMaterial);
+    return true;
+}();
 
 template <size_t N>
 OrderedMap<QString> containerMap(const ContainerRow (&rows)[N])
