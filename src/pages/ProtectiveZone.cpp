@@ -321,8 +321,11 @@ QString ProtectiveZone::svg(const QString& title, const ZoneDistances& d, const 
     // isolation distance on the upwind side, where the zone is not.
     const QPointF zoneLabel = spill + downPx * std::max(g.protectiveDistance * scale * 0.55, g.isolationRadius * scale + 40);
     cv.text(zoneLabel + QPointF(0, 5), distanceText(d.protective, protUnit), 16, pal.text, "middle", true);
-    const QPointF isoLabel = spill - downPx * (g.isolationRadius * scale + 22);
-    cv.text(isoLabel + QPointF(0, 5), withUnit(d.isolation, isoUnit), 15, pal.text, "middle", true);
+    // Far enough out that the text (about 9 px a character) clears the circle whichever way it points.
+    const QString isoText = withUnit(d.isolation, isoUnit);
+    const double along = std::abs(downPx.x()) * isoText.size() * 4.7 + std::abs(downPx.y()) * 9;
+    const QPointF isoLabel = spill - downPx * (g.isolationRadius * scale + 10 + along);
+    cv.text(isoLabel + QPointF(0, 5), isoText, 15, pal.text, "middle", true);
 
     // North arrow, top right; wind, top left (an arrow blowing the way the wind goes).
     const QPointF north(kSize - 40, 150);
