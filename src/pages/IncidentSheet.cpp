@@ -223,7 +223,7 @@ QByteArray IncidentSheet::pdf(QORModel& model, Material& material, const SheetOp
         y += 8;
 
         // Right: the zone figure; left: the guide's headings and first points.
-        const double figure = 230, fx = right - figure, columnRight = fx - 14;
+        const double figure = 260, fx = right - figure, columnRight = fx - 14;
         QString why;
         const auto d = ProtectiveZone::distancesFor(iso, containers, options.zone, &why);
         ZoneOptions light = options.zone;
