@@ -148,9 +148,14 @@ std::vector<NameSuggestions::Suggestion> NameSuggestions::suggest(const QString&
     const auto words = wordTrigrams(text);
     const std::vector<uint64_t> query = merged(words);
     for (qsizetype i = 0; i < materials.size(); ++i) {
-        const double sim = bestWindow(query, int(words.size()), m_names[size_t(i)]);
-        if (sim >= kMinSimilarity)
-            out.push_back({ materials.at(i), sim });
+        const Name& name = m_names[size_t(i)];
+        const double sim = bestWindow(query, int(words.size()), name);
+        if (sim < kMinSimilarity)
+            continue;
+        int size = 0;
+        for (uint32_t w = 0; w < name.wordCount; ++w)
+            size += int(m_words[name.firstWord + w].count);
+        out.push_back({ materials.at(i), sim, size });
     }
     const auto& weights = MaterialSearch::rankingWeights();
     QCollator collator;
@@ -161,6 +166,8 @@ std::vector<NameSuggestions::Suggestion> NameSuggestions::suggest(const QString&
         const int wa = weights.value(a.material->unId, 0), wb = weights.value(b.material->unId, 0);
         if (wa != wb)
             return wa > wb;
+        if (a.nameSize != b.nameSize)
+            return a.nameSize < b.nameSize;
         const int c = collator.compare(a.material->name, b.material->name);
         return c != 0 ? c < 0 : a.material->unId < b.material->unId;
     };

@@ -20,10 +20,12 @@ public:
     struct Suggestion {
         MaterialPtr material;
         double similarity = 0;
+        int nameSize = 0;  // trigrams in the whole name: ties go to the shorter name
     };
 
     // Up to five materials, best first; equal similarity goes to the
-    // material responders look up more often, then by name. Empty for text
+    // material responders look up more often, then to the name with least
+    // else in it, then by name. Empty for text
     // without letters or shorter than three characters.
     std::vector<Suggestion> suggest(const QString& text, const MaterialList& materials);
     MaterialList suggestMaterials(const QString& text, const MaterialList& materials);

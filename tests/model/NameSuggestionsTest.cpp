@@ -92,6 +92,22 @@ TEST_F(SuggestionTest, EqualSimilarityGoesToTheMoreLookedUpMaterial)
     EXPECT_EQ(suggestedIds("amonia").mid(0, 2), QStringList({ "1005", "2672" }));
 }
 
+TEST(NameSuggestionOrder, AmongEqualMatchesTheShorterNameComesFirst)
+{
+    // Same similarity (the word "chlorine"), same weight (neither is looked up often).
+    MaterialList list;
+    for (const char* name : { "Calcium hypochlorite mixture, with available chlorine", "Liquid chlorine", "Chlorine" }) {
+        auto m = std::make_shared<Material>();
+        m->name = name;
+        m->unId = "9999";
+        list.append(m);
+    }
+    const MaterialList found = NameSuggestions().suggestMaterials("clorine", list);
+    ASSERT_EQ(found.size(), 3);
+    EXPECT_EQ(found[0]->name, "Chlorine");
+    EXPECT_EQ(found[1]->name, "Liquid chlorine");
+}
+
 TEST(NameSimilarity, ScoresWholeWordsAndIgnoresCaseAndPunctuation)
 {
     EXPECT_DOUBLE_EQ(NameSuggestions::similarity("chlorine", "CHLORINE"), 1.0);
