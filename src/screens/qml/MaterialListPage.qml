@@ -211,11 +211,16 @@ Page {
                 Repeater {
                     model: list.suggestions
                     delegate: ItemDelegate {
+                        id: suggestionRow
                         required property var modelData
                         required property int index
                         objectName: "suggestion" + index
                         width: suggestionPanel.width
                         implicitHeight: QorTheme.touchTarget
+                        background: Rectangle {
+                            color: suggestionRow.down || suggestionRow.visualFocus ? QorTheme.sectionBackground : QorTheme.pageBackground
+                            Rectangle { width: parent.width; height: 1; anchors.bottom: parent.bottom; color: QorTheme.sectionBackground }
+                        }
                         contentItem: Label {
                             text: modelData.name + "   UN" + modelData.unId + "  ·  " + qsTr("Guide") + " " + modelData.guideId
                             color: "white"
