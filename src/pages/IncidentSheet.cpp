@@ -173,7 +173,9 @@ QByteArray IncidentSheet::pdf(QORModel& model, Material& material, const SheetOp
         y = paragraph(p, tx, y + 2, right - tx, page.height(),
                       QStringLiteral("UN %1    %2 %3    %4").arg(material.unId, L::tr("Class"), cls.isEmpty() ? L::tr("not in this data pack") : cls, guideText),
                       sheetFont(10.5, true));
-        const QString made = (options.made.isValid() ? options.made : QDateTime::currentDateTime()).toString(Qt::ISODate);
+        // With its UTC offset, so a sheet handed on says unambiguously when it was made.
+        const QDateTime when = options.made.isValid() ? options.made : QDateTime::currentDateTime();
+        const QString made = when.toOffsetFromUtc(when.offsetFromUtc()).toString(Qt::ISODate);
         QString by = L::tr("Sheet made %1").arg(made);
         if (!options.preparedBy.isEmpty())
             by += QStringLiteral("    ") + L::tr("Prepared by: %1").arg(options.preparedBy);

@@ -96,6 +96,17 @@ TEST_F(SheetTest, Un1017SheetHoldsGuideDistancesAndSources)
     EXPECT_NEAR(pdf.pageSize(0).width(), 612, 1) << "letter";
 }
 
+TEST_F(SheetTest, TimeMadeCarriesItsOffset)
+{
+    SheetOptions options;
+    options.made = QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7), Qt::OffsetFromUTC, -5 * 3600);
+    delete QORModel::sharedInstance(false);
+    test::ModelFixture model;
+    const QString path = out.filePath("t.pdf");
+    ASSERT_TRUE(IncidentSheet::write(path, *QORModel::sharedInstance(), *QORModel::sharedInstance()->materials.first(), options, nullptr));
+    EXPECT_TRUE(pdfText(path).contains("2026-03-04T05:06:07-05:00"));
+}
+
 TEST_F(SheetTest, MaterialWithoutDistancesSaysSo)
 {
     const QString path = out.filePath("1005.pdf");
