@@ -158,10 +158,7 @@ QByteArray IncidentSheet::pdf(QORModel& model, Material& material, const SheetOp
         p.setPen(Qt::black);
 
         // Identity: placard, name, UN id, class and guide.
-        QString placardKey = material.placardId.trimmed();
-        if (placardKey.isEmpty())
-            placardKey = model.placardNameForMaterial(material);
-        const QImage placard = ImageCreations::imageWithPDFNamedAtWidth(model.placards.value(placardKey, placardKey + QStringLiteral(".pdf")), 64);
+        const QImage placard = ImageCreations::imageWithPDFNamedAtWidth(placardImageForMaterial(model, material), 64);
         if (!placard.isNull())
             p.drawImage(QRectF(m, m, 64, 64 * placard.height() / std::max(1, placard.width())), placard);
         const double tx = m + 76;
