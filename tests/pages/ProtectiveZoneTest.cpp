@@ -246,16 +246,3 @@ TEST(ProtectiveZone, InksReachContrastInLightAndDark)
         EXPECT_TRUE(ProtectiveZone::svg("x", distances("30", "0.1"), o).contains(p.background.name()));
     }
 }
-
-TEST(ProtectiveZone, RendersAndWritesWholeFilesOnly)
-{
-    ZoneOptions o;
-    const QImage image = ProtectiveZone::render(ProtectiveZone::svg("UN1005", distances("30", "0.1"), o), 320);
-    ASSERT_FALSE(image.isNull());
-    EXPECT_EQ(image.width(), 320);
-    EXPECT_TRUE(ProtectiveZone::render("not svg", 100).isNull());
-
-    QString error;
-    EXPECT_FALSE(ProtectiveZone::writeFile("/nonexistent-dir/zone.svg", "x", &error));
-    EXPECT_TRUE(error.contains("/nonexistent-dir/zone.svg"));
-}
