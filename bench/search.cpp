@@ -2,6 +2,7 @@
 #include "BenchSupport.h"
 
 #include "model/MaterialSearch.h"
+#include "model/NameSuggestions.h"
 #include "model/QORModel.h"
 
 #include <benchmark/benchmark.h>
@@ -35,5 +36,28 @@ static void BM_SearchKeystroke(benchmark::State& state, const char* text)
 BENCHMARK_CAPTURE(BM_SearchKeystroke, one_char, "a")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(BM_SearchKeystroke, three_chars, "sod")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(BM_SearchKeystroke, four_digits, "1005")->Unit(benchmark::kMicrosecond);
+
+// "Did you mean" after a search that found nothing; the name index is built
+// on the first call and kept, as the list screen keeps its suggester.
+static void BM_SuggestWhenNothingFound(benchmark::State& state, const char* text)
+{
+    QORModel& model = loadedScaleModel();
+    NameSuggestions suggester;
+    suggester.suggest(QString::fromLatin1(text), model.materials);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(suggester.suggest(QString::fromLatin1(text), model.materials).size());
+}
+BENCHMARK_CAPTURE(BM_SuggestWhenNothingFound, one_word, "clorine")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(BM_SuggestWhenNothingFound, two_words, "hydrogen sulfde")->Unit(benchmark::kMicrosecond);
+
+static void BM_SuggestIndexBuild(benchmark::State& state)
+{
+    QORModel& model = loadedScaleModel();
+    for (auto _ : state) {
+        NameSuggestions suggester;
+        benchmark::DoNotOptimize(suggester.suggest(QStringLiteral("gasolene"), model.materials).size());
+    }
+}
+BENCHMARK(BM_SuggestIndexBuild)->Unit(benchmark::kMillisecond);
 
 QOR_BENCHMARK_MAIN();

@@ -224,7 +224,7 @@ int main(int argc, char** argv)
     QCommandLineOption emptyWindow(QStringLiteral("empty-window"), QStringLiteral("Show an empty window (start-up baseline)."));
     // Reaching the detail screens for screenshots.
     QCommandLineOption detailTab(QStringLiteral("detail-tab"), QStringLiteral("Show tab N of the material opened by a link."), QStringLiteral("N"));
-    QCommandLineOption openScreen(QStringLiteral("open-screen"), QStringLiteral("Open isolation or guide for the material opened by a link."), QStringLiteral("NAME"));
+    QCommandLineOption openScreen(QStringLiteral("open-screen"), QStringLiteral("Open isolation, zone or guide for the material opened by a link."), QStringLiteral("NAME"));
     QCommandLineOption appearance(QStringLiteral("appearance"), QStringLiteral("Use the light or dark appearance."), QStringLiteral("light|dark"));
     QCommandLineOption quitFrom(QStringLiteral("quit-from"), QStringLiteral("Open screen NAME, then quit (for the self-test)."), QStringLiteral("NAME"));
     quitFrom.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -325,8 +325,15 @@ int main(int argc, char** argv)
             if (!tab.isEmpty())
                 if (auto* controller = detail->property("controller").value<QObject*>())
                     controller->setProperty("selectedViewIndex", tab.toInt());
-            if (screen == QLatin1String("isolation"))
+            if (screen == QLatin1String("isolation") || screen == QLatin1String("zone"))
                 QMetaObject::invokeMethod(detail, "openIsolation");
+            // The zone figure sits below the tables.
+            if (screen == QLatin1String("zone"))
+                QTimer::singleShot(400, window, [window] {
+                    if (QObject* page = window->findChild<QObject*>(QStringLiteral("isolationPage")))
+                        if (auto* table = page->property("table").value<QObject*>())
+                            QMetaObject::invokeMethod(table, "positionViewAtEnd");
+                });
             else if (screen == QLatin1String("guide"))
                 QORAppDelegate::sharedInstance()->showGuideForMaterial(detail->property("material").value<MaterialRef>().guideId(),
                                                                       detail->property("material").value<MaterialRef>());

@@ -3,6 +3,7 @@
 #include "MaterialJson.h"
 
 #include "model/MaterialSearch.h"
+#include "model/NameSuggestions.h"
 #include "model/QORModel.h"
 
 #include <QJsonArray>
@@ -29,16 +30,32 @@ int searchCommand(Context& ctx, QStringList args)
     MaterialSearch search(viewedPredicate());
     search.search(args.first(), model.currentFilter.get(), model.materials, sort);
     const MaterialList& results = search.results();
+    // Only an empty result offers close names; the names are never searched
+    // in the UN-number sort, so neither are they suggested there.
+    MaterialList suggestions;
+    if (results.isEmpty() && sort != 1)
+        suggestions = NameSuggestions().suggestMaterials(args.first(), model.materials);
     if (ctx.json) {
         QJsonArray array;
+        auto add = [&](const MaterialPtr& m, bool suggestion) {
+            QJsonObject o{ { QStringLiteral("name"), m->name }, { QStringLiteral("unId"), m->unId }, { QStringLiteral("guideId"), m->guideId } };
+            if (suggestion)
+                o.insert(QStringLiteral("suggestion"), true);
+            array.append(o);
+        };
         for (const auto& m : results)
-            array.append(QJsonObject{ { QStringLiteral("name"), m->name }, { QStringLiteral("unId"), m->unId },
-                                      { QStringLiteral("guideId"), m->guideId } });
+            add(m, false);
+        for (const auto& m : suggestions)
+            add(m, true);
         ctx.printJson(array);
     } else {
         ctx.out << results.size() << " search results\n";
         for (const auto& m : results)
             ctx.out << "  " << m->unId.leftJustified(5) << " " << m->name << "  (guide " << m->guideId << ")\n";
+        if (!suggestions.isEmpty())
+            ctx.out << "Did you mean (suggestions, not matches):\n";
+        for (const auto& m : suggestions)
+            ctx.out << "  suggestion " << m->unId.leftJustified(5) << " " << m->name << "  (guide " << m->guideId << ")\n";
         ctx.out.flush();
     }
     return results.isEmpty() ? NothingFound : Found;

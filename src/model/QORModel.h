@@ -153,4 +153,8 @@ private:
     QTimer m_loadTimer;
 };
 
+// The placard artwork of a material: its placard id, or when that is blank
+// the placard the chemistry database names for it. A PDF resource name.
+QString placardImageForMaterial(QORModel& model, Material& material);
+
 } // namespace qor

@@ -74,6 +74,14 @@ QString QORModel::placardNameForMaterial(Material& material)
     return name;
 }
 
+QString placardImageForMaterial(QORModel& model, Material& material)
+{
+    QString key = material.placardId.trimmed();
+    if (key.isEmpty())
+        key = model.placardNameForMaterial(material);
+    return model.placards.value(key, key + QStringLiteral(".pdf"));
+}
+
 QList<StringMap> QORModel::getHmtEntriesForMaterial(Material& material)
 {
     return cachedLookup(material.hmtEntries, [&] {

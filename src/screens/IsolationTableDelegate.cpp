@@ -2,6 +2,7 @@
 
 #include "model/QORModel.h"
 #include "model/Resources.h"
+#include "pages/ProtectiveZone.h"
 
 #include <QSettings>
 

@@ -99,6 +99,7 @@ void MaterialListController::setSearchText(const QString& text)
         const auto& f = QORModel::sharedInstance()->currentFilter;
         setTitle(f ? f->getFilterText() : QString());
         m_search.reset();
+        m_suggestions.clear();
         rebuildRows();
         return;
     }
@@ -124,8 +125,29 @@ void MaterialListController::searchNow()
     QORModel* model = QORModel::sharedInstance();
     if (!m_search.search(m_searchText, model->currentFilter.get(), model->materials, sortType()))
         return;  // the same text as last time: the results stand
+    // Names are not searched in the UN-number sort, so not suggested there either.
+    m_suggestions = m_search.results().isEmpty() && sortType() != 1
+        ? m_suggester.suggestMaterials(m_searchText, model->materials)
+        : MaterialList();
     setTitle(L::tr("%1 %2").arg(m_search.results().size()).arg(L::tr("search results")));
     rebuildRows();
+}
+
+QVariantList MaterialListController::suggestions() const
+{
+    QVariantList out;
+    if (!searching())
+        return out;
+    for (const auto& m : m_suggestions)
+        out.append(QVariantMap{ { QStringLiteral("name"), m->name }, { QStringLiteral("unId"), m->unId }, { QStringLiteral("guideId"), m->guideId } });
+    return out;
+}
+
+MaterialRef MaterialListController::suggestionAt(int index) const
+{
+    if (!searching() || index < 0 || index >= m_suggestions.size())
+        return {};
+    return MaterialRef(m_suggestions.at(index));
 }
 
 void MaterialListController::doneSearch()
@@ -155,6 +177,7 @@ void MaterialListController::onFilterChanged(Filter* filter)
     setTitle(filter ? L::tr(" %1").arg(filter->getFilterText()) : L::tr(" Loading..."));
     setSelectedRow(-1);
     m_search.reset();
+    m_suggestions.clear();
     if (searching())
         searchNow();
     else

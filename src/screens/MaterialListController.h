@@ -3,6 +3,7 @@
 // search as the user types, the category menu and the sort button.
 #include "MaterialRef.h"
 #include "model/MaterialSearch.h"
+#include "model/NameSuggestions.h"
 
 #include <QAbstractListModel>
 #include <QTimer>
@@ -29,6 +30,8 @@ class MaterialListController : public QAbstractListModel {
     Q_PROPERTY(int selectedRow READ selectedRow WRITE setSelectedRow NOTIFY selectedRowChanged)
     Q_PROPERTY(QString incidentsNote READ incidentsNote NOTIFY listChanged)
     Q_PROPERTY(QString emptyText READ emptyText NOTIFY listChanged)
+    // "Did you mean": close names offered only when a search finds nothing.
+    Q_PROPERTY(QVariantList suggestions READ suggestions NOTIFY listChanged)
 public:
     enum Roles {
         NameRole = Qt::UserRole + 1,
@@ -83,6 +86,9 @@ public:
     Q_INVOKABLE void nextSort();
     Q_INVOKABLE void chooseCategory(const QString& abbrev);
     Q_INVOKABLE qor::MaterialRef materialAt(int row) const;
+    // Maps with "name", "unId" and "guideId", best first.
+    QVariantList suggestions() const;
+    Q_INVOKABLE qor::MaterialRef suggestionAt(int index) const;
     // First row of the section with that key; -1 means "scroll to the very top".
     Q_INVOKABLE int rowForSectionKey(const QString& key) const;
     // The row to scroll to for a material (matched by its NPG index, letters only); -1 when none.
@@ -116,6 +122,8 @@ private:
     int m_selectedRow = -1;
     QTimer m_searchTimer;
     MaterialSearch m_search;
+    NameSuggestions m_suggester;
+    MaterialList m_suggestions;
 };
 
 } // namespace qor

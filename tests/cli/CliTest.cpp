@@ -251,3 +251,26 @@ TEST_F(Cli, JsonParsesWithBothStreamsMergedAndNoRuntimeDirectory)
     QJsonDocument::fromJson(output, &error);
     EXPECT_EQ(error.error, QJsonParseError::NoError) << output.left(200).constData();
 }
+
+TEST_F(Cli, SearchOffersMarkedSuggestionsOnlyWhenNothingMatches)
+{
+    Result r = runCli({ "search", "clorine" });
+    EXPECT_EQ(r.code, cli::NothingFound) << "a suggestion is not a match";
+    EXPECT_TRUE(r.out.startsWith("0 search results\n"));
+    EXPECT_TRUE(r.out.contains("Did you mean"));
+    EXPECT_TRUE(r.out.contains("suggestion 1017 "));
+
+    r = runCli({ "--json", "search", "amonia" });
+    const QJsonArray a = r.json().array();
+    ASSERT_FALSE(a.isEmpty());
+    EXPECT_EQ(a.first().toObject().value("unId").toString(), "1005");
+    for (const auto& v : a)
+        EXPECT_TRUE(v.toObject().value("suggestion").toBool());
+
+    r = runCli({ "--json", "search", "chlorine" });
+    EXPECT_EQ(r.code, cli::Found);
+    for (const auto& v : r.json().array())
+        EXPECT_FALSE(v.toObject().contains("suggestion"));
+    r = runCli({ "search", "--sort", "1", "clorine" });
+    EXPECT_FALSE(r.out.contains("Did you mean")) << "names are not searched by UN number";
+}

@@ -77,6 +77,31 @@ TestCase {
         compare(stack.currentItem.material.unId, "1017")
     }
 
+    function test_didYouMeanOpensASuggestion() {
+        typeSearch("clorine")
+        var controller = list().controller
+        tryVerify(function() { return list().titleLabel.text === "0 search results" }, 2000)
+        var panel = findChild(list(), "suggestionPanel")
+        tryVerify(function() { return panel.visible })
+        compare(controller.suggestionAt(0).unId, "1017")
+        var first = findChild(panel, "suggestion0")
+        verify(first)
+        tryVerify(function() { return first.y > 0 }, 1000, "the panel has laid out its rows")
+        mouseClick(first)
+        var stack = list().StackView.view
+        tryCompare(stack, "depth", 2)
+        compare(stack.currentItem.material.unId, "1017")
+        stack.pop(null, StackView.Immediate)
+
+        // Enter in the search field opens the best suggestion too.
+        typeSearch("amonia")
+        tryVerify(function() { return controller.suggestionAt(0).unId === "1005" }, 2000)
+        list().searchField.forceActiveFocus()
+        keyClick(Qt.Key_Return)
+        tryCompare(stack, "depth", 2)
+        compare(stack.currentItem.material.unId, "1005")
+    }
+
     function test_followSearchLink() {
         // The link waits 3 s before it fills the search field.
         AppDelegate.openUrl("qor://search?q=chlorine")

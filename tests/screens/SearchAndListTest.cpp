@@ -135,6 +135,37 @@ TEST_F(ListControllerTest, ControllerDebouncesAndTitlesResults)
     EXPECT_EQ(list.rowCount(), 9) << "the name starting with a digit follows Benzene into B";
 }
 
+TEST_F(ListControllerTest, SuggestionsOnlyWhenNothingIsFound)
+{
+    MaterialListController list;
+    auto searchFor = [&](const QString& text) {
+        list.setSearchText(text);
+        list.searchNow();
+    };
+    // Searches that find something keep their results, order and title, and offer nothing.
+    for (const char* text : { "AC", "1", "10", "DIFLUORO", "chlorine", "benz" }) {
+        searchFor(QString::fromLatin1(text));
+        MaterialSearch plain([](const Material&) { return false; });
+        plain.search(QString::fromLatin1(text), model->currentFilter.get(), model->materials, list.sortType());
+        ASSERT_FALSE(plain.results().isEmpty()) << text;
+        EXPECT_EQ(names(list.searchResults()), names(plain.results())) << text;
+        EXPECT_EQ(list.title(), QString("%1 search results").arg(plain.results().size())) << text;
+        EXPECT_TRUE(list.suggestions().isEmpty()) << text;
+        EXPECT_FALSE(list.suggestionAt(0).valid()) << text;
+    }
+
+    searchFor("clorine");
+    EXPECT_EQ(list.title(), "0 search results") << "the title still counts matches only";
+    EXPECT_EQ(list.rowCount(), 0);
+    ASSERT_FALSE(list.suggestions().isEmpty());
+    EXPECT_EQ(list.suggestions().first().toMap().value("unId").toString(), "1017");
+    EXPECT_EQ(list.suggestionAt(0).unId(), "1017");
+    EXPECT_FALSE(list.suggestionAt(99).valid());
+
+    list.doneSearch();
+    EXPECT_TRUE(list.suggestions().isEmpty()) << "ending the search drops the suggestions";
+}
+
 TEST_F(ListControllerTest, SectionsTitlesAndScrollTargets)
 {
     MaterialListController list;

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
+import QtQuick.Window
 import QOR
 
 // The isolation distance sections of one material; large bold figures that
@@ -15,11 +16,178 @@ ListView {
     boundsBehavior: Flickable.StopAtBounds
     ScrollBar.vertical: ScrollBar {}
     model: iso.sections
-    onMaterialChanged: if (material && material.valid) iso.material = material
+    onMaterialChanged: if (material && material.valid) { iso.material = material; zone.material = material }
 
     IsolationTableDelegate {
         id: iso
         onInfoPageRequested: function(page, title) { table.infoRequested(page, title) }
+        // The figure follows the units switch.
+        onTableChanged: zone.refresh()
+    }
+    property alias zoneController: zone
+    ZoneFigureController {
+        id: zone
+        dark: Appearance.dark
+    }
+
+    // The zone drawn to scale, with its inputs, and the incident sheet.
+    footer: Column {
+        id: zoneSection
+        objectName: "zoneSection"
+        width: ListView.view.width
+        spacing: 8
+        topPadding: 8
+        bottomPadding: 16
+        Rectangle {
+            width: parent.width
+            height: 30
+            color: table.green
+            Label { x: 12; anchors.verticalCenter: parent.verticalCenter; text: qsTr("Protective action zone"); font.pixelSize: 15; font.bold: true; color: "black" }
+        }
+        Flow {
+            x: 12
+            width: parent.width - 24
+            spacing: 6
+            Repeater {
+                model: [qsTr("Small spill"), qsTr("Large spill")]
+                Button {
+                    required property int index
+                    required property string modelData
+                    objectName: "spill" + index
+                    text: modelData
+                    checkable: true
+                    checked: zone.large === (index === 1)
+                    implicitHeight: QorTheme.touchTarget
+                    onClicked: zone.large = index === 1
+                }
+            }
+            Repeater {
+                model: [qsTr("Day"), qsTr("Night")]
+                Button {
+                    required property int index
+                    required property string modelData
+                    objectName: "time" + index
+                    text: modelData
+                    checkable: true
+                    checked: zone.night === (index === 1)
+                    implicitHeight: QorTheme.touchTarget
+                    onClicked: zone.night = index === 1
+                }
+            }
+            ComboBox {
+                objectName: "conditionBox"
+                visible: zone.conditions.length > 1
+                model: zone.conditions
+                currentIndex: zone.condition
+                implicitHeight: QorTheme.touchTarget
+                onActivated: function(i) { zone.condition = i }
+            }
+            ComboBox {
+                objectName: "containerBox"
+                visible: zone.usesContainers
+                model: zone.containers
+                currentIndex: zone.container
+                implicitWidth: 260
+                implicitHeight: QorTheme.touchTarget
+                onActivated: function(i) { zone.container = i }
+            }
+            ComboBox {
+                objectName: "windSpeedBox"
+                visible: zone.usesContainers
+                model: zone.windSpeeds
+                currentIndex: zone.windSpeed
+                implicitHeight: QorTheme.touchTarget
+                onActivated: function(i) { zone.windSpeed = i }
+            }
+        }
+        Row {
+            x: 12
+            spacing: 16
+            // Drag the needle to where the wind comes from.
+            Rectangle {
+                id: compass
+                objectName: "compass"
+                width: 110; height: 110; radius: 55
+                color: "transparent"
+                border.color: "white"
+                border.width: 2
+                Accessible.name: qsTr("Wind direction compass")
+                Label { text: "N"; color: "white"; font.bold: true; anchors.horizontalCenter: parent.horizontalCenter; y: 4 }
+                Rectangle {
+                    id: needle
+                    width: 6; height: 46
+                    radius: 3
+                    color: "#8ab4f8"
+                    x: compass.width / 2 - width / 2
+                    y: compass.height / 2 - height
+                    transform: Rotation { origin.x: needle.width / 2; origin.y: needle.height; angle: zone.windFrom }
+                }
+                MouseArea {
+                    anchors.fill: parent
+                    preventStealing: true
+                    onPressed: function(m) { zone.dragNeedleTo(m.x - width / 2, m.y - height / 2) }
+                    onPositionChanged: function(m) { zone.dragNeedleTo(m.x - width / 2, m.y - height / 2) }
+                }
+            }
+            Column {
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 4
+                Label { text: qsTr("Wind from (degrees)"); color: "white"; font.bold: true }
+                TextField {
+                    objectName: "windField"
+                    text: Math.round(zone.windFrom)
+                    validator: IntValidator { bottom: 0; top: 360 }
+                    inputMethodHints: Qt.ImhDigitsOnly
+                    implicitWidth: 90
+                    implicitHeight: QorTheme.touchTarget
+                    onEditingFinished: if (acceptableInput) zone.windFrom = parseInt(text)
+                }
+            }
+        }
+        Image {
+            id: zoneImage
+            objectName: "zoneImage"
+            x: 12
+            width: Math.min(parent.width - 24, 640)
+            height: width
+            source: zone.imageSource
+            fillMode: Image.PreserveAspectFit
+            Accessible.name: zone.summary
+            onWidthChanged: zone.pixelSize = Math.round(width * Screen.devicePixelRatio)
+        }
+        Label {
+            x: 12
+            width: parent.width - 24
+            text: zone.summary
+            color: "white"
+            wrapMode: Text.Wrap
+        }
+        Flow {
+            x: 12
+            width: parent.width - 24
+            spacing: 8
+            Button {
+                objectName: "saveSheet"
+                text: qsTr("Save incident sheet (PDF)")
+                implicitHeight: QorTheme.touchTarget
+                onClicked: zone.saveSheet()
+            }
+            Button {
+                objectName: "openSheet"
+                visible: zone.sheetPath.length > 0
+                text: qsTr("Open to print")
+                implicitHeight: QorTheme.touchTarget
+                onClicked: Qt.openUrlExternally("file://" + zone.sheetPath)
+            }
+        }
+        Label {
+            x: 12
+            width: parent.width - 24
+            visible: text.length > 0
+            text: zone.sheetStatus
+            color: "white"
+            wrapMode: Text.WrapAnywhere
+        }
     }
 
     header: Rectangle {

@@ -37,7 +37,8 @@ Page {
     }
     function firstMaterial() { return list.materialAt(0) }
     function openRow(row) {
-        var m = list.materialAt(row)
+        // With nothing found, Enter opens the best suggestion instead.
+        var m = list.rowCount() === 0 ? list.suggestionAt(row) : list.materialAt(row)
         if (!m.valid)
             return
         if (AppDelegate.tablet)
@@ -211,6 +212,48 @@ Page {
                 color: "#cccccc"
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
+            }
+            // Nothing found: the closest names, clearly not matches.
+            Column {
+                id: suggestionPanel
+                objectName: "suggestionPanel"
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.top: parent.top
+                anchors.margins: 10
+                spacing: 2
+                visible: list.searching && listView.count === 0 && list.suggestions.length > 0
+                Label {
+                    text: qsTr("Did you mean")
+                    color: "white"
+                    font.bold: true
+                    font.pixelSize: 16
+                    bottomPadding: 6
+                }
+                Repeater {
+                    model: list.suggestions
+                    delegate: ItemDelegate {
+                        id: suggestionRow
+                        required property var modelData
+                        required property int index
+                        objectName: "suggestion" + index
+                        width: suggestionPanel.width
+                        implicitHeight: QorTheme.touchTarget
+                        background: Rectangle {
+                            color: suggestionRow.down || suggestionRow.visualFocus ? QorTheme.sectionBackground : QorTheme.pageBackground
+                            Rectangle { width: parent.width; height: 1; anchors.bottom: parent.bottom; color: QorTheme.sectionBackground }
+                        }
+                        contentItem: Label {
+                            text: modelData.name + "   UN" + modelData.unId + "  ·  " + qsTr("Guide") + " " + modelData.guideId
+                            color: "white"
+                            elide: Text.ElideRight
+                            verticalAlignment: Text.AlignVCenter
+                        }
+                        Accessible.name: qsTr("Suggestion") + " " + modelData.name
+                        onClicked: page.openRow(index)
+                        Keys.onReturnPressed: page.openRow(index)
+                    }
+                }
             }
 
             // Side index: touching a key scrolls to its section.

@@ -1,0 +1,248 @@
+// The protective-action zone: figures picked from the isolation map, the
+// geometry, and what the drawing shows.
+#include "FixturePack.h"
+
+#include "pages/ProtectiveZone.h"
+
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+#include <cmath>
+
+using namespace qor;
+
+namespace {
+
+IsolationRecord record(const QString& condition, const QStringList& small, const QStringList& large = {})
+{
+    static const char* what[] = { "Initial isolation distance Metric", "Initial isolation distance Imp", "Protect distance Day Metric",
+                                  "Protect distance Day Imp", "Protect distance Night Metric", "Protect distance Night Imp" };
+    IsolationRecord r;
+    r.insert("Condition", condition);
+    for (int i = 0; i < 6; ++i) {
+        r.insert(QString("Small Spill %1").arg(what[i]), small.value(i));
+        if (!large.isEmpty())
+            r.insert(QString("Large Spill %1").arg(what[i]), large.value(i));
+    }
+    return r;
+}
+
+ZoneDistances distances(const QString& iso, const QString& prot, bool metric = true)
+{
+    ZoneDistances d;
+    d.isolation = iso;
+    d.protective = prot;
+    d.metric = metric;
+    return d;
+}
+
+double attr(const QString& svg, const QString& element, const QString& name)
+{
+    const QRegularExpression re(QString("<[a-z]+ id=\"%1\"[^>]* %2=\"([-0-9.]+)\"").arg(element, name));
+    const auto m = re.match(svg);
+    EXPECT_TRUE(m.hasMatch()) << element.toStdString() << " " << name.toStdString();
+    return m.captured(1).toDouble();
+}
+
+QList<QPointF> points(const QString& svg, const QString& element)
+{
+    const QRegularExpression re(QString("id=\"%1\" points=\"([^\"]+)\"").arg(element));
+    QList<QPointF> out;
+    for (const QString& p : re.match(svg).captured(1).split(' ', Qt::SkipEmptyParts)) {
+        const QStringList xy = p.split(',');
+        out << QPointF(xy.value(0).toDouble(), xy.value(1).toDouble());
+    }
+    return out;
+}
+
+double dist(QPointF a, QPointF b)
+{
+    return std::hypot(a.x() - b.x(), a.y() - b.y());
+}
+
+double luminance(const QColor& c)
+{
+    auto lin = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    return 0.2126 * lin(c.redF()) + 0.7152 * lin(c.greenF()) + 0.0722 * lin(c.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b)
+{
+    const double la = luminance(a), lb = luminance(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+} // namespace
+
+TEST(ProtectiveZone, DistanceTextsParseWithOpenEndedFigures)
+{
+    EXPECT_DOUBLE_EQ(DistanceValue::parse("0.3")->value, 0.3);
+    EXPECT_FALSE(DistanceValue::parse("0.3")->openEnded);
+    EXPECT_DOUBLE_EQ(DistanceValue::parse("11+")->value, 11);
+    EXPECT_TRUE(DistanceValue::parse("11+")->openEnded);
+    EXPECT_TRUE(DistanceValue::parse(" 7+ ")->openEnded);
+    for (const char* bad : { "", "+", "abc", "1.2.3", "-5", "11++" })
+        EXPECT_FALSE(DistanceValue::parse(bad)) << bad;
+}
+
+TEST(ProtectiveZone, GeometryIsToScaleAndDownwindOfTheSpill)
+{
+    const auto g = ZoneGeometry::make(distances("100", "0.5"), 270);
+    ASSERT_TRUE(g);
+    EXPECT_DOUBLE_EQ(g->isolationRadius, 100);
+    EXPECT_DOUBLE_EQ(g->protectiveDistance, 500);
+    // The square: its near edge runs through the spill, length and width equal the downwind distance.
+    EXPECT_NEAR(dist(g->square[0], g->square[1]), 500, 1e-9);
+    EXPECT_NEAR(dist(g->square[1], g->square[2]), 500, 1e-9);
+    EXPECT_NEAR(dist(g->square[2], g->square[3]), 500, 1e-9);
+    EXPECT_NEAR(dist((g->square[0] + g->square[1]) / 2, QPointF(0, 0)), 0, 1e-9);
+    // Wind from the west (270) carries the zone east.
+    EXPECT_NEAR(g->zoneCentre().x(), 250, 1e-9);
+    EXPECT_NEAR(g->zoneCentre().y(), 0, 1e-9);
+
+    EXPECT_NEAR(ZoneGeometry::make(distances("100", "0.5"), 0)->zoneCentre().y(), -250, 1e-9) << "wind from the north: zone south";
+    EXPECT_NEAR(ZoneGeometry::make(distances("100", "0.5"), 90)->zoneCentre().x(), -250, 1e-9) << "wind from the east: zone west";
+
+    const auto ft = ZoneGeometry::make(distances("1000", "2", false), 270);
+    EXPECT_NEAR(ft->isolationRadius, 304.8, 1e-9);
+    EXPECT_NEAR(ft->protectiveDistance, 3218.688, 1e-9);
+
+    EXPECT_TRUE(ZoneGeometry::make(distances("1000", "11+"), 270)->openEnded);
+    EXPECT_FALSE(ZoneGeometry::make(distances("", "0.5"), 270));
+    EXPECT_FALSE(ZoneGeometry::make(distances("100", "0"), 270));
+}
+
+TEST(ProtectiveZone, DrawingKeepsBothDistancesInOneScale)
+{
+    for (double wind : { 270.0, 0.0, 135.0 }) {
+        ZoneOptions o;
+        o.windFromDeg = wind;
+        const QString svg = ProtectiveZone::svg("UN1005", distances("300", "1.9"), o);
+        // The scale bar reads 200 m, 500 m, 1 km...: px per metre from it.
+        const double bar = attr(svg, "scalebar", "x2") - attr(svg, "scalebar", "x1");
+        const QRegularExpression label(">([0-9.]+) (m|km)</text>");
+        QRegularExpressionMatch last;
+        for (auto it = label.globalMatch(svg); it.hasNext();)
+            last = it.next();
+        ASSERT_TRUE(last.hasMatch());
+        const double perMetre = bar / (last.captured(1).toDouble() * (last.captured(2) == "km" ? 1000 : 1));
+
+        EXPECT_NEAR(attr(svg, "isolation", "r") / perMetre, 300, 3) << wind;
+        const QList<QPointF> sq = points(svg, "zone");
+        ASSERT_EQ(sq.size(), 4);
+        EXPECT_NEAR(dist(sq[0], sq[1]) / perMetre, 1900, 19) << wind;
+        EXPECT_NEAR(dist(sq[1], sq[2]) / perMetre, 1900, 19) << wind;
+        EXPECT_TRUE(svg.contains("<polygon id=\"zone\"")) << "a closed figure is a closed shape";
+        EXPECT_TRUE(svg.contains("1.9 km"));
+        EXPECT_TRUE(svg.contains("300 m"));
+        EXPECT_TRUE(svg.contains("Schematic, not a map"));
+    }
+    // Wind from 270: the zone's centre lies east (right) of the spill.
+    ZoneOptions o;
+    const QString svg = ProtectiveZone::svg("UN1005", distances("300", "1.9"), o);
+    const QList<QPointF> sq = points(svg, "zone");
+    EXPECT_GT((sq[0].x() + sq[2].x()) / 2, attr(svg, "isolation", "cx") + 10);
+}
+
+TEST(ProtectiveZone, OpenEndedZoneFadesAndHasNoFarEdge)
+{
+    ZoneOptions o;
+    const QString svg = ProtectiveZone::svg("UN1017", distances("1000", "11+"), o);
+    EXPECT_FALSE(svg.contains("<polygon id=\"zone\"")) << "no closed outline";
+    const QList<QPointF> edge = points(svg, "zone");
+    ASSERT_EQ(edge.size(), 4) << "far-left, near-left, near-right, far-right";
+    EXPECT_TRUE(svg.contains("<polyline id=\"zone\""));
+    EXPECT_NE(edge.first(), edge.last()) << "the line does not come back to its start";
+    EXPECT_TRUE(svg.contains("stop-opacity=\"0\"")) << "the fill fades out at the far side";
+    EXPECT_TRUE(svg.contains("more than 11 km"));
+}
+
+TEST(ProtectiveZone, FiguresComeFromTheIsolationMap)
+{
+    IsolationDistances iso;
+    iso.insert("default", record("default", { "30", "100", "0.2", "0.1", "0.5", "0.3" }, { "150", "500", "0.9", "0.6", "2.5", "1.6" }));
+    iso.insert("When Spilled in Water", record("When Spilled in Water", { "60", "200", "0.4", "0.2", "1.4", "0.9" }));
+
+    ZoneOptions o;
+    auto d = ProtectiveZone::distancesFor(iso, {}, o);
+    ASSERT_TRUE(d);
+    EXPECT_EQ(d->isolation, "30");
+    EXPECT_EQ(d->protective, "0.2");
+    EXPECT_FALSE(d->inWater);
+    EXPECT_TRUE(d->condition.isEmpty());
+
+    o.night = true;
+    o.large = true;
+    o.metric = false;
+    d = ProtectiveZone::distancesFor(iso, {}, o);
+    EXPECT_EQ(d->isolation, "500");
+    EXPECT_EQ(d->protective, "1.6");
+    EXPECT_EQ(d->isolationUnit(), "ft");
+    EXPECT_EQ(d->protectiveUnit(), "mi");
+
+    o = {};
+    o.condition = "water";
+    d = ProtectiveZone::distancesFor(iso, {}, o);
+    ASSERT_TRUE(d);
+    EXPECT_TRUE(d->inWater);
+    EXPECT_EQ(d->protective, "0.4");
+    EXPECT_TRUE(ProtectiveZone::svg("UN2012", *d, o).contains("When Spilled In Water"));
+
+    QString why;
+    o.large = true;
+    EXPECT_FALSE(ProtectiveZone::distancesFor(iso, {}, o, &why)) << "no large-spill figures in water";
+    EXPECT_TRUE(why.contains("not in this data pack"));
+    o.condition = "fire";
+    EXPECT_FALSE(ProtectiveZone::distancesFor(iso, {}, o, &why));
+    EXPECT_FALSE(ProtectiveZone::distancesFor({}, {}, ZoneOptions(), &why));
+    EXPECT_TRUE(why.contains("not in this data pack"));
+}
+
+TEST(ProtectiveZone, LargeSpillOfAContainerGasReadsTheChosenRowAndWind)
+{
+    IsolationDistances iso;
+    iso.insert("default", record("default", { "100", "300", "0.3", "0.2", "1.1", "0.7" }));
+    ProtectiveZone::ContainerRows rows;
+    rows.insert("Rail tank car", "1000,3000,9.6,6.0,6.3,3.9,5.1,3.2,11+,7+,8.9,5.6,6.5,4.1");
+    rows.insert("Small cylinders", "150,500,1.3,0.9,0.7,0.5,0.5,0.3,2.4,1.5,1.2,0.8,0.6,0.4");
+
+    ZoneOptions o;
+    o.large = true;
+    auto d = ProtectiveZone::distancesFor(iso, rows, o);
+    ASSERT_TRUE(d);
+    EXPECT_EQ(d->container, "Rail tank car");
+    EXPECT_EQ(d->protective, "9.6") << "low wind, day";
+    o.windSpeed = ZoneOptions::HighWind;
+    o.night = true;
+    EXPECT_EQ(ProtectiveZone::distancesFor(iso, rows, o)->protective, "6.5");
+    o.metric = false;
+    o.container = 1;
+    o.windSpeed = ZoneOptions::ModerateWind;
+    d = ProtectiveZone::distancesFor(iso, rows, o);
+    EXPECT_EQ(d->isolation, "500");
+    EXPECT_EQ(d->protective, "0.8");
+    EXPECT_TRUE(d->spillText().contains("Small cylinders"));
+    EXPECT_TRUE(d->spillText().contains("6-12 mph"));
+    o.container = 99;
+    EXPECT_EQ(ProtectiveZone::distancesFor(iso, rows, o)->container, "Small cylinders") << "out of range: the last row";
+    o.large = false;
+    EXPECT_EQ(ProtectiveZone::distancesFor(iso, rows, o)->protective, "0.7") << "small spills ignore the containers";
+
+    rows.insert("Broken", "1,2,3");
+    o.large = true;
+    o.container = 2;
+    QString why;
+    EXPECT_FALSE(ProtectiveZone::distancesFor(iso, rows, o, &why));
+    EXPECT_TRUE(why.contains("Broken"));
+}
+
+TEST(ProtectiveZone, InksReachContrastInLightAndDark)
+{
+    for (bool dark : { false, true }) {
+        const ZonePalette p = ZonePalette::forTheme(dark);
+        for (const QColor& ink : { p.text, p.isolation, p.protective, p.wind })
+            EXPECT_GE(contrast(ink, p.background), 4.5) << ink.name().toStdString() << (dark ? " dark" : " light");
+        ZoneOptions o;
+        o.dark = dark;
+        EXPECT_TRUE(ProtectiveZone::svg("x", distances("30", "0.1"), o).contains(p.background.name()));
+    }
+}
