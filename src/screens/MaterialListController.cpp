@@ -1,5 +1,7 @@
 #include "MaterialListController.h"
 
+#include "SideIndex.h"
+
 #include "MaterialRows.h"
 #include "model/QORModel.h"
 #include "model/Resources.h"
@@ -287,6 +289,22 @@ int MaterialListController::rowForSectionKey(const QString& key) const
         if (m_rows.at(r).sectionKey == key)
             return r;
     return -1;
+}
+
+QVariantList MaterialListController::sideIndexEntries(int capacity) const
+{
+    const QStringList keys = sectionIndex();
+    QVariantList entries;
+    for (const SideIndexEntry& entry : condenseSideIndex(keys, capacity))
+        entries.append(QVariantMap{ { QStringLiteral("label"), entry.label }, { QStringLiteral("key"), keys.at(entry.keyIndex) } });
+    return entries;
+}
+
+QString MaterialListController::sideIndexKeyAt(double fraction) const
+{
+    const QStringList keys = sectionIndex();
+    const int index = qor::sideIndexKeyAt(int(keys.size()), fraction);
+    return index < 0 ? QString() : keys.at(index);
 }
 
 int MaterialListController::rowForMaterial(const MaterialRef& ref) const

@@ -19,7 +19,8 @@ Page {
     header: ToolBar {
         implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
-        Label { anchors.centerIn: parent; text: page.title; color: "white"; font.bold: true }
+        palette { buttonText: QorTheme.barText; button: QorTheme.barPressed; highlight: QorTheme.barSelectedText; mid: QorTheme.barPressed }
+        Label { anchors.centerIn: parent; text: page.title; color: QorTheme.barText; font.bold: true }
     }
 
     Flickable {
@@ -40,8 +41,8 @@ Page {
                 text: about.aboutHtml
                 textFormat: Text.RichText
                 wrapMode: Text.Wrap
-                color: "white"
-                linkColor: QorTheme.tint
+                color: QorTheme.pageText
+                linkColor: QorTheme.tintText
                 onLinkActivated: function(link) {
                     var name = link.replace(/\.html$/, "")
                     window.openInfoPage(name, name === "howto" ? qsTr("HOW TO USE THE GUIDEBOOK") : name, name !== "howto", AppDelegate.tablet)
@@ -60,19 +61,19 @@ Page {
                     anchors.margins: 10
                     columns: 2
                     columnSpacing: 10
-                    Label { text: qsTr("Data pack"); color: "white"; font.bold: true; Layout.columnSpan: 2 }
-                    Label { text: qsTr("Edition"); color: "#cccccc" }
-                    Label { objectName: "packEdition"; text: about.packFound ? about.edition : qsTr("none found"); color: "white"; Layout.fillWidth: true; wrapMode: Text.Wrap }
-                    Label { text: qsTr("Date"); color: "#cccccc" }
-                    Label { text: about.buildDate; color: "white" }
-                    Label { text: qsTr("Data"); color: "#cccccc" }
-                    Label { text: about.sampleText; color: about.sample ? "#ffb045" : "white"; Layout.fillWidth: true; wrapMode: Text.Wrap }
-                    Label { text: qsTr("Files"); color: "#cccccc" }
+                    Label { text: qsTr("Data pack"); color: QorTheme.sectionText; font.bold: true; Layout.columnSpan: 2 }
+                    Label { text: qsTr("Edition"); color: QorTheme.secondaryText }
+                    Label { objectName: "packEdition"; text: about.packFound ? about.edition : qsTr("none found"); color: QorTheme.sectionText; Layout.fillWidth: true; wrapMode: Text.Wrap }
+                    Label { text: qsTr("Date"); color: QorTheme.secondaryText }
+                    Label { text: about.buildDate; color: QorTheme.sectionText }
+                    Label { text: qsTr("Data"); color: QorTheme.secondaryText }
+                    Label { text: about.sampleText; color: about.sample ? QorTheme.accentText : QorTheme.sectionText; Layout.fillWidth: true; wrapMode: Text.Wrap }
+                    Label { text: qsTr("Files"); color: QorTheme.secondaryText }
                     Label {
                         objectName: "packChecksums"
                         text: about.checksumText
-                        color: about.checksumState === AboutController.Verified ? QorTheme.tint
-                             : about.checksumState === AboutController.NotChecked ? "white" : "#ff6b6b"
+                        color: about.checksumState === AboutController.Verified ? QorTheme.tintText
+                             : about.checksumState === AboutController.NotChecked ? QorTheme.sectionText : QorTheme.errorText
                         Layout.fillWidth: true
                         wrapMode: Text.Wrap
                     }

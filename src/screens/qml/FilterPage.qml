@@ -26,7 +26,7 @@ Dialog {
                 Layout.fillWidth: true
                 Layout.leftMargin: 12
                 text: dialog.title
-                color: "white"
+                color: QorTheme.pageText
                 font.bold: true
             }
             Button {
@@ -69,7 +69,7 @@ Dialog {
                 Accessible.name: categoryText
                 contentItem: RowLayout {
                     Label { Layout.fillWidth: true; text: categoryText; wrapMode: Text.Wrap; maximumLineCount: 2; font.bold: true }
-                    Label { text: isCurrent ? "✓" : ""; color: QorTheme.tint; font.pixelSize: 18 }
+                    Label { text: isCurrent ? "✓" : ""; color: QorTheme.tintText; font.pixelSize: 18 }
                 }
                 onClicked: categories.select(index)
             }

@@ -9,7 +9,7 @@ ListView {
     id: table
     property var material
     property alias delegateController: iso
-    readonly property color green: Appearance.dark ? QorTheme.isolationGreenDark : QorTheme.isolationGreen
+    readonly property color green: QorTheme.isolationGreen
     signal infoRequested(string page, string title)
     clip: true
     boundsBehavior: Flickable.StopAtBounds
@@ -31,7 +31,7 @@ ListView {
             x: 12; y: 10
             width: parent.width - 24
             spacing: 8
-            Label { text: iso.headerLabel; font.pixelSize: 22; font.bold: true; color: "black"; wrapMode: Text.Wrap; width: parent.width }
+            Label { text: iso.headerLabel; font.pixelSize: 22; font.bold: true; color: QorTheme.isolationText; wrapMode: Text.Wrap; width: parent.width }
             Row {
                 objectName: "unitsSwitch"
                 spacing: 0
@@ -51,7 +51,7 @@ ListView {
                     }
                 }
             }
-            Label { text: QorTheme.sampleNotice; color: "#402000"; font.pixelSize: 12; font.bold: true }
+            Label { text: QorTheme.sampleNotice; color: QorTheme.isolationText; font.pixelSize: 12; font.bold: true }
         }
     }
 
@@ -70,7 +70,7 @@ ListView {
                 text: section.modelData.title
                 font.pixelSize: 15
                 font.bold: true
-                color: "black"
+                color: QorTheme.isolationText
                 fontSizeMode: Text.HorizontalFit
                 minimumPixelSize: 10
             }
@@ -100,8 +100,8 @@ ListView {
         property url icon
         width: parent ? parent.width : 0
         Image { visible: icon.toString().length > 0; source: icon; Layout.preferredWidth: 28; Layout.preferredHeight: 28 }
-        Label { text: caption; color: "white"; font.pixelSize: 15; font.bold: true; Layout.fillWidth: true; wrapMode: Text.Wrap }
-        Label { text: value; color: "#ffd27f"; font.pixelSize: 26; font.bold: true; horizontalAlignment: Text.AlignRight }
+        Label { text: caption; color: QorTheme.pageText; font.pixelSize: 15; font.bold: true; Layout.fillWidth: true; wrapMode: Text.Wrap }
+        Label { text: value; color: QorTheme.valueText; font.pixelSize: 26; font.bold: true; horizontalAlignment: Text.AlignRight }
     }
 
     Component {
@@ -115,9 +115,9 @@ ListView {
                     required property string modelData
                     width: parent.width
                     spacing: 2
-                    Label { text: modelData === "small" ? qsTr("Small Spill") : qsTr("Large Spill"); color: "white"; font.pixelSize: 17; font.bold: true }
+                    Label { text: modelData === "small" ? qsTr("Small Spill") : qsTr("Large Spill"); color: QorTheme.pageText; font.pixelSize: 17; font.bold: true }
                     Figure { caption: qsTr("First ISOLATE in all Directions for :"); value: cell[modelData + "Isolate"] }
-                    Label { text: qsTr("Then protect persons Downwind"); color: "white"; font.pixelSize: 15; font.bold: true }
+                    Label { text: qsTr("Then protect persons Downwind"); color: QorTheme.pageText; font.pixelSize: 15; font.bold: true }
                     Figure { caption: qsTr("(Day) :"); icon: iso.dayIcon; value: cell[modelData + "Day"] }
                     Figure { caption: qsTr("(Night) :"); icon: iso.nightIcon; value: cell[modelData + "Night"] }
                 }
@@ -129,9 +129,9 @@ ListView {
         Column {
             readonly property var cell: parent ? parent.cell : ({})
             spacing: 2
-            Label { text: qsTr("Large Spill"); color: "white"; font.pixelSize: 17; font.bold: true }
+            Label { text: qsTr("Large Spill"); color: QorTheme.pageText; font.pixelSize: 17; font.bold: true }
             Figure { caption: qsTr("First ISOLATE in all Directions for :"); value: cell.isolate }
-            Label { text: qsTr("Then protect persons Downwind"); color: "white"; font.pixelSize: 15; font.bold: true }
+            Label { text: qsTr("Then protect persons Downwind"); color: QorTheme.pageText; font.pixelSize: 15; font.bold: true }
             Figure { caption: qsTr("(Day)"); icon: iso.dayIcon }
             Repeater { model: 3; Figure { required property int index; caption: cell.windCaptions[index]; value: cell.day[index] } }
             Figure { caption: qsTr("(Night)"); icon: iso.nightIcon }

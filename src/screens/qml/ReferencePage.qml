@@ -27,13 +27,14 @@ Page {
     header: ToolBar {
         implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
+        palette { buttonText: QorTheme.barText; button: QorTheme.barPressed; highlight: QorTheme.barSelectedText; mid: QorTheme.barPressed }
         RowLayout {
             anchors.fill: parent
             Item { implicitWidth: placardsButton.implicitWidth }
             Label {
                 Layout.fillWidth: true
                 text: page.title
-                color: "white"
+                color: QorTheme.barText
                 font.bold: true
                 horizontalAlignment: Text.AlignHCenter
             }
@@ -58,9 +59,9 @@ Page {
             width: ListView.view.width
             text: QorTheme.sampleNotice
             horizontalAlignment: Text.AlignHCenter
-            color: "#ffb045"
+            color: QorTheme.noticeText
             font.pixelSize: 11
-            background: Rectangle { color: "#1c2630" }
+            background: Rectangle { color: QorTheme.noticeBackground }
         }
         section.property: "section"
         section.delegate: Rectangle {
@@ -72,7 +73,7 @@ Page {
                 x: 10
                 anchors.verticalCenter: parent.verticalCenter
                 text: parent.section
-                color: "white"
+                color: QorTheme.sectionText
                 font.bold: true
                 font.pixelSize: 15
             }
@@ -82,7 +83,11 @@ Page {
             required property int index
             required property string title
             required property string subtitle
+            required property color rowColor
             required property color darkRowColor
+            required property int sectionNumber
+            // Table rows are green: dark text reads on both greens.
+            readonly property bool onGreen: sectionNumber === ReferenceViewController.TablesSection && !(down || highlighted)
             width: ListView.view.width
             height: subtitle === "" ? reference.rowHeight : reference.rowHeight + 14
             highlighted: ListView.isCurrentItem
@@ -96,23 +101,22 @@ Page {
                     Label {
                         Layout.fillWidth: true
                         text: row.title
-                        color: "white"
+                        color: row.onGreen ? QorTheme.isolationText : QorTheme.pageText
                         font.pixelSize: 14
                         elide: Text.ElideRight
                     }
                     Label {
                         visible: row.subtitle !== ""
                         text: row.subtitle
-                        color: "#e0e0e0"
+                        color: row.onGreen ? QorTheme.isolationText : QorTheme.secondaryText
                         font.pixelSize: 11
                     }
                 }
-                Label { text: "›"; color: "#cccccc"; font.pixelSize: 22 }
+                Label { text: "›"; color: row.onGreen ? QorTheme.isolationText : QorTheme.secondaryText; font.pixelSize: 22 }
             }
-            // The app is dark, so rows take the dark-appearance colours.
             background: Rectangle {
-                color: row.down || row.highlighted ? "#3d566e" : row.darkRowColor
-                Rectangle { anchors.bottom: parent.bottom; width: parent.width; height: 1; color: "#1c2630" }
+                color: row.down || row.highlighted ? QorTheme.rowHighlight : (QorTheme.dark ? row.darkRowColor : row.rowColor)
+                Rectangle { anchors.bottom: parent.bottom; width: parent.width; height: 1; color: QorTheme.separator }
             }
         }
         ScrollBar.vertical: ScrollBar {}

@@ -10,7 +10,7 @@ Page {
     property string html
     property string backText: qsTr("Back")
     property alias web: web
-    background: Rectangle { color: "white" }
+    background: Rectangle { color: QorTheme.cardBackground }
     header: BarHeader { page: page; title: page.title; backText: page.backText }
     WebEngineView {
         id: web
