@@ -80,6 +80,25 @@ Page {
                 }
             }
 
+            // The system's appearance unless the user picks one (also Ctrl+Shift+D).
+            RowLayout {
+                objectName: "appearanceChoice"
+                Layout.alignment: Qt.AlignHCenter
+                Label { text: qsTr("Appearance"); color: QorTheme.pageText }
+                Repeater {
+                    model: [{ value: "system", text: qsTr("System") }, { value: "light", text: qsTr("Light") }, { value: "dark", text: qsTr("Dark") }]
+                    delegate: RadioButton {
+                        required property var modelData
+                        objectName: "appearance_" + modelData.value
+                        text: modelData.text
+                        implicitHeight: QorTheme.touchTarget
+                        checked: QorTheme.choice === modelData.value
+                        Accessible.name: qsTr("Appearance") + " " + text
+                        onClicked: QorTheme.choice = modelData.value
+                    }
+                }
+            }
+
             Button {
                 objectName: "feedbackButton"
                 Layout.alignment: Qt.AlignHCenter
