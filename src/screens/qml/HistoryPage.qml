@@ -43,7 +43,7 @@ Page {
                     text: modelData
                     checkable: true
                     checked: history.segment === index
-                    implicitHeight: 32
+                    implicitHeight: QorTheme.touchTarget
                     font.pixelSize: 13
                     palette.button: checked ? QorTheme.barText : QorTheme.barBackground
                     palette.buttonText: checked ? QorTheme.barBackground : QorTheme.barText
