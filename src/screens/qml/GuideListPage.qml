@@ -15,6 +15,7 @@ Page {
     title: qsTr("Guides")
     background: Rectangle { color: QorTheme.pageBackground }
     header: ToolBar {
+        implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
         palette { buttonText: QorTheme.barText; button: QorTheme.barPressed; highlight: QorTheme.barSelectedText; mid: QorTheme.barPressed }
         Label { anchors.centerIn: parent; text: qsTr("Guides"); color: QorTheme.barText; font.bold: true }

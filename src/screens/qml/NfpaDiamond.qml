@@ -1,4 +1,5 @@
 import QtQuick
+import QOR
 
 // The NFPA 704 diamond: health (blue, left), fire (red, top), reactivity
 // (yellow, right) and special hazards (white, bottom).
