@@ -25,14 +25,46 @@ Appearance::Appearance(QObject* parent) : QObject(parent), m_dark(isDark())
     qApp->installEventFilter(this);
 }
 
-bool Appearance::isDark()
+namespace {
+QEvent::Type choiceChangeEvent()
+{
+    static const auto type = QEvent::Type(QEvent::registerEventType());
+    return type;
+}
+} // namespace
+
+bool Appearance::systemDark()
 {
     return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
 }
 
+bool Appearance::isDark()
+{
+    const QString chosen = choice();
+    return chosen == QLatin1String("system") ? systemDark() : chosen == QLatin1String("dark");
+}
+
+QString Appearance::choice()
+{
+    const QString chosen = QSettings().value(QLatin1String(kChoiceKey)).toString();
+    return chosen == QLatin1String("light") || chosen == QLatin1String("dark") ? chosen : QStringLiteral("system");
+}
+
+void Appearance::setChoice(const QString& chosen)
+{
+    QSettings settings;
+    if (chosen == QLatin1String("light") || chosen == QLatin1String("dark"))
+        settings.setValue(QLatin1String(kChoiceKey), chosen);
+    else
+        settings.remove(QLatin1String(kChoiceKey));
+    QEvent changed(choiceChangeEvent());
+    QCoreApplication::sendEvent(qApp, &changed);
+}
+
 bool Appearance::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange && isDark() != m_dark) {
+    const bool relevant = event->type() == QEvent::ApplicationPaletteChange || event->type() == choiceChangeEvent();
+    if (watched == qApp && relevant && isDark() != m_dark) {
         m_dark = !m_dark;
         emit darkChanged();
     }

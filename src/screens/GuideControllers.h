@@ -12,15 +12,22 @@
 
 namespace qor {
 
-// Light or dark, from the application palette (window colour lightness).
+// Light or dark: the user's choice ("appearance": "light" or "dark") when
+// made, otherwise the application palette (window colour lightness).
 class Appearance : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(bool dark READ dark NOTIFY darkChanged)
 public:
+    static constexpr const char* kChoiceKey = "appearance";
+
     explicit Appearance(QObject* parent = nullptr);
     static bool isDark();
+    static bool systemDark();
+    // "system", "light" or "dark"; every Appearance follows a change.
+    static QString choice();
+    static void setChoice(const QString& choice);
     bool dark() const { return m_dark; }
 
 signals:

@@ -1,6 +1,8 @@
 #include "MaterialListController.h"
 
 #include "AppDelegate.h"
+#include "SideIndex.h"
+
 #include "MaterialRows.h"
 #include "model/PackManifest.h"
 #include "model/QORModel.h"
@@ -336,6 +338,22 @@ int MaterialListController::rowForSectionKey(const QString& key) const
         if (m_rows.at(r).sectionKey == key)
             return r;
     return -1;
+}
+
+QVariantList MaterialListController::sideIndexEntries(int capacity) const
+{
+    const QStringList keys = sectionIndex();
+    QVariantList entries;
+    for (const SideIndexEntry& entry : condenseSideIndex(keys, capacity))
+        entries.append(QVariantMap{ { QStringLiteral("label"), entry.label }, { QStringLiteral("key"), keys.at(entry.keyIndex) } });
+    return entries;
+}
+
+QString MaterialListController::sideIndexKeyAt(double fraction) const
+{
+    const QStringList keys = sectionIndex();
+    const int index = qor::sideIndexKeyAt(int(keys.size()), fraction);
+    return index < 0 ? QString() : keys.at(index);
 }
 
 int MaterialListController::rowForMaterial(const MaterialRef& ref) const

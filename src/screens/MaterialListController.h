@@ -91,6 +91,11 @@ public:
     Q_INVOKABLE qor::MaterialRef suggestionAt(int index) const;
     // First row of the section with that key; -1 means "scroll to the very top".
     Q_INVOKABLE int rowForSectionKey(const QString& key) const;
+    // The side index for a height of `capacity` entries: [{label, key}], a subset
+    // with "•" between when the keys do not fit.
+    Q_INVOKABLE QVariantList sideIndexEntries(int capacity) const;
+    // The section key under a finger at `fraction` of the side index's height.
+    Q_INVOKABLE QString sideIndexKeyAt(double fraction) const;
     // The row to scroll to for a material (matched by its NPG index, letters only); -1 when none.
     Q_INVOKABLE int rowForMaterial(const qor::MaterialRef& material) const;
     Q_INVOKABLE void reload();

@@ -19,7 +19,8 @@ Page {
     header: ToolBar {
         implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
-        Label { anchors.centerIn: parent; text: page.title; color: "white"; font.bold: true }
+        palette { buttonText: QorTheme.barText; button: QorTheme.barPressed; highlight: QorTheme.barSelectedText; mid: QorTheme.barPressed }
+        Label { anchors.centerIn: parent; text: page.title; color: QorTheme.barText; font.bold: true }
     }
 
     Flickable {
@@ -40,8 +41,8 @@ Page {
                 text: about.aboutHtml
                 textFormat: Text.RichText
                 wrapMode: Text.Wrap
-                color: "white"
-                linkColor: QorTheme.tint
+                color: QorTheme.pageText
+                linkColor: QorTheme.tintText
                 onLinkActivated: function(link) {
                     var name = link.replace(/\.html$/, "")
                     window.openInfoPage(name, name === "howto" ? qsTr("HOW TO USE THE GUIDEBOOK") : name, name !== "howto", AppDelegate.tablet)
@@ -60,19 +61,19 @@ Page {
                     anchors.margins: 10
                     columns: 2
                     columnSpacing: 10
-                    Label { text: qsTr("Data pack"); color: "white"; font.bold: true; Layout.columnSpan: 2 }
-                    Label { text: qsTr("Edition"); color: "#cccccc" }
-                    Label { objectName: "packEdition"; text: about.packFound ? about.edition : qsTr("none found"); color: "white"; Layout.fillWidth: true; wrapMode: Text.Wrap }
-                    Label { text: qsTr("Date"); color: "#cccccc" }
-                    Label { text: about.buildDate; color: "white" }
-                    Label { text: qsTr("Data"); color: "#cccccc" }
-                    Label { text: about.sampleText; color: PackStatus.notice.length > 0 ? "#ffb045" : "white"; Layout.fillWidth: true; wrapMode: Text.Wrap }
-                    Label { text: qsTr("Files"); color: "#cccccc" }
+                    Label { text: qsTr("Data pack"); color: QorTheme.sectionText; font.bold: true; Layout.columnSpan: 2 }
+                    Label { text: qsTr("Edition"); color: QorTheme.secondaryText }
+                    Label { objectName: "packEdition"; text: about.packFound ? about.edition : qsTr("none found"); color: QorTheme.sectionText; Layout.fillWidth: true; wrapMode: Text.Wrap }
+                    Label { text: qsTr("Date"); color: QorTheme.secondaryText }
+                    Label { text: about.buildDate; color: QorTheme.sectionText }
+                    Label { text: qsTr("Data"); color: QorTheme.secondaryText }
+                    Label { text: about.sampleText; color: PackStatus.notice.length > 0 ? QorTheme.accentText : QorTheme.sectionText; Layout.fillWidth: true; wrapMode: Text.Wrap }
+                    Label { text: qsTr("Files"); color: QorTheme.secondaryText }
                     Label {
                         objectName: "packChecksums"
                         text: about.checksumText
-                        color: about.checksumState === AboutController.Verified ? QorTheme.tint
-                             : about.checksumState === AboutController.NotChecked ? "white" : "#ff6b6b"
+                        color: about.checksumState === AboutController.Verified ? QorTheme.tintText
+                             : about.checksumState === AboutController.NotChecked ? QorTheme.sectionText : QorTheme.errorText
                         Layout.fillWidth: true
                         wrapMode: Text.Wrap
                     }
@@ -90,12 +91,12 @@ Page {
                     anchors.fill: parent
                     anchors.margins: 10
                     spacing: 8
-                    Label { text: qsTr("Sources"); color: "white"; font.bold: true }
+                    Label { text: qsTr("Sources"); color: QorTheme.sectionText; font.bold: true }
                     Label {
                         objectName: "packProblem"
                         text: PackStatus.verified ? "" : PackStatus.notice + "\n" + PackStatus.problem
                         visible: text.length > 0
-                        color: "#ff6b6b"
+                        color: QorTheme.errorText
                         Layout.fillWidth: true
                         wrapMode: Text.Wrap
                     }
@@ -105,19 +106,38 @@ Page {
                             required property var modelData
                             Layout.fillWidth: true
                             spacing: 2
-                            Label { text: modelData.title; color: modelData.sample ? "#ffb045" : "white"; font.bold: true; Layout.fillWidth: true; wrapMode: Text.Wrap }
-                            Label { text: modelData.edition; visible: text.length > 0; color: "#cccccc"; Layout.fillWidth: true; wrapMode: Text.Wrap }
+                            Label { text: modelData.title; color: modelData.sample ? QorTheme.accentText : QorTheme.sectionText; font.bold: true; Layout.fillWidth: true; wrapMode: Text.Wrap }
+                            Label { text: modelData.edition; visible: text.length > 0; color: QorTheme.secondaryText; Layout.fillWidth: true; wrapMode: Text.Wrap }
                             Label {
                                 text: modelData.tables.length > 0 ? qsTr("Used for: %1").arg(modelData.tables.join(", ")) : qsTr("Not used by this pack's content")
-                                color: "#cccccc"; font.pixelSize: 12; Layout.fillWidth: true; wrapMode: Text.Wrap
+                                color: QorTheme.secondaryText; font.pixelSize: 12; Layout.fillWidth: true; wrapMode: Text.Wrap
                             }
                             Label {
                                 text: modelData.files.join("\n")
                                 visible: text.length > 0
-                                color: "#9aa7b4"; font.pixelSize: 10; font.family: "monospace"
+                                color: QorTheme.secondaryText; font.pixelSize: 10; font.family: "monospace"
                                 Layout.fillWidth: true; wrapMode: Text.WrapAnywhere
                             }
                         }
+                    }
+                }
+            }
+
+            // The system's appearance unless the user picks one (also Ctrl+Shift+D).
+            RowLayout {
+                objectName: "appearanceChoice"
+                Layout.alignment: Qt.AlignHCenter
+                Label { text: qsTr("Appearance"); color: QorTheme.pageText }
+                Repeater {
+                    model: [{ value: "system", text: qsTr("System") }, { value: "light", text: qsTr("Light") }, { value: "dark", text: qsTr("Dark") }]
+                    delegate: RadioButton {
+                        required property var modelData
+                        objectName: "appearance_" + modelData.value
+                        text: modelData.text
+                        implicitHeight: QorTheme.touchTarget
+                        checked: QorTheme.choice === modelData.value
+                        Accessible.name: qsTr("Appearance") + " " + text
+                        onClicked: QorTheme.choice = modelData.value
                     }
                 }
             }

@@ -11,6 +11,7 @@ ToolBar {
     property string backText: qsTr("Back")
     default property alias tools: toolRow.data
     background: Rectangle { color: QorTheme.barBackground }
+    palette { buttonText: QorTheme.barText; button: QorTheme.barPressed; highlight: QorTheme.barSelectedText; mid: QorTheme.barPressed }
     RowLayout {
         anchors.fill: parent
         spacing: 0
@@ -20,7 +21,7 @@ ToolBar {
             text: "‹ " + bar.backText
             implicitHeight: QorTheme.touchTarget
             implicitWidth: Math.max(QorTheme.touchTarget, implicitContentWidth + 16)
-            palette.buttonText: "white"
+            palette.buttonText: QorTheme.barText
             Accessible.name: bar.backText
             onClicked: bar.page.StackView.view.pop()
         }
@@ -28,7 +29,7 @@ ToolBar {
             Layout.fillWidth: true
             Layout.leftMargin: 8
             text: bar.title
-            color: "white"
+            color: QorTheme.barText
             font.bold: true
             font.pixelSize: 16
             elide: Text.ElideRight

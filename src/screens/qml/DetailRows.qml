@@ -30,7 +30,7 @@ ListView {
                 x: 12
                 width: parent.width - 70
                 text: cell.modelData.header
-                color: "white"
+                color: QorTheme.sectionText
                 font.bold: true
                 font.pixelSize: 15
                 elide: Text.ElideRight
@@ -82,10 +82,10 @@ ListView {
             ColumnLayout {
                 id: info
                 anchors { left: placard.right; leftMargin: 12; right: copy.left; top: parent.top; topMargin: 10 }
-                Label { text: row.name; color: "white"; font.pixelSize: 20; font.bold: true; wrapMode: Text.Wrap; Layout.fillWidth: true }
-                Label { text: row.unId; color: "#ffb045"; font.pixelSize: 22; font.bold: true }
-                Label { text: qsTr("Hazard Class") + " " + row.hazardClass; color: "#dddddd"; font.pixelSize: 14; visible: row.hazardClass.length > 0 }
-                Label { text: PackStatus.notice; visible: text.length > 0; color: "#ffb045"; font.pixelSize: 11 }
+                Label { text: row.name; color: QorTheme.pageText; font.pixelSize: 20; font.bold: true; wrapMode: Text.Wrap; Layout.fillWidth: true }
+                Label { text: row.unId; color: QorTheme.accentText; font.pixelSize: 22; font.bold: true }
+                Label { text: qsTr("Hazard Class") + " " + row.hazardClass; color: QorTheme.secondaryText; font.pixelSize: 14; visible: row.hazardClass.length > 0 }
+                Label { text: PackStatus.notice; visible: text.length > 0; color: QorTheme.accentText; font.pixelSize: 11 }
             }
             ToolButton {
                 id: copy
@@ -102,7 +102,7 @@ ListView {
         Rectangle {
             readonly property var row: parent ? parent.row : ({})
             height: 190
-            color: "white"
+            color: QorTheme.cardBackground
             NfpaDiamond {
                 objectName: "nfpaDiamond"
                 anchors.centerIn: parent
@@ -120,10 +120,10 @@ ListView {
             ColumnLayout {
                 id: npgInfo
                 anchors { left: parent.left; leftMargin: 12; right: npgCopy.left; top: parent.top; topMargin: 10 }
-                Label { text: row.name; color: "white"; font.pixelSize: 18; font.bold: true; wrapMode: Text.Wrap; Layout.fillWidth: true }
-                Label { text: row.formula; color: "#dddddd"; font.pixelSize: 16; visible: text.length > 0 }
-                Label { text: row.cas; color: "#dddddd"; font.pixelSize: 14; visible: text.length > 0 }
-                Label { text: row.rtecs; color: "#dddddd"; font.pixelSize: 14; visible: text.length > 0 }
+                Label { text: row.name; color: QorTheme.pageText; font.pixelSize: 18; font.bold: true; wrapMode: Text.Wrap; Layout.fillWidth: true }
+                Label { text: row.formula; color: QorTheme.secondaryText; font.pixelSize: 16; visible: text.length > 0 }
+                Label { text: row.cas; color: QorTheme.secondaryText; font.pixelSize: 14; visible: text.length > 0 }
+                Label { text: row.rtecs; color: QorTheme.secondaryText; font.pixelSize: 14; visible: text.length > 0 }
             }
             ToolButton {
                 id: npgCopy
@@ -140,7 +140,7 @@ ListView {
         Rectangle {
             readonly property var row: parent ? parent.row : ({})
             height: ghsCol.implicitHeight + 20
-            color: "white"
+            color: QorTheme.cardBackground
             Column {
                 id: ghsCol
                 x: 10; y: 10
@@ -154,12 +154,12 @@ ListView {
                 }
                 Repeater {
                     model: row.expanded ? row.statements : row.statements.slice(0, 2)
-                    Label { required property string modelData; text: modelData; color: "black"; wrapMode: Text.Wrap; width: ghsCol.width }
+                    Label { required property string modelData; text: modelData; color: QorTheme.cardText; wrapMode: Text.Wrap; width: ghsCol.width }
                 }
                 Label {
                     visible: row.statements.length > 2
                     text: row.expanded ? qsTr("Show less") : qsTr("Show all %1 statements").arg(row.statements.length)
-                    color: "#1f5fae"
+                    color: QorTheme.linkText
                     font.bold: true
                     height: QorTheme.touchTarget
                     verticalAlignment: Text.AlignVCenter
@@ -172,14 +172,14 @@ ListView {
         Rectangle {
             readonly property var row: parent ? parent.row : ({})
             height: Math.max(64, isoCol.implicitHeight + 20)
-            color: table.dark ? QorTheme.isolationGreenDark : QorTheme.isolationGreen
+            color: QorTheme.isolationGreen
             Column {
                 id: isoCol
                 anchors { left: parent.left; leftMargin: 12; right: parent.right; rightMargin: 36; verticalCenter: parent.verticalCenter }
-                Label { text: row.title; color: "black"; font.pixelSize: 16; font.bold: true; wrapMode: Text.Wrap; width: parent.width }
-                Label { text: row.subtitle; color: "black"; font.pixelSize: 13; font.bold: true; visible: text.length > 0; wrapMode: Text.Wrap; width: parent.width }
+                Label { text: row.title; color: QorTheme.isolationText; font.pixelSize: 16; font.bold: true; wrapMode: Text.Wrap; width: parent.width }
+                Label { text: row.subtitle; color: QorTheme.isolationText; font.pixelSize: 13; font.bold: true; visible: text.length > 0; wrapMode: Text.Wrap; width: parent.width }
             }
-            Label { anchors.right: parent.right; anchors.rightMargin: 12; anchors.verticalCenter: parent.verticalCenter; text: "›"; font.pixelSize: 28; color: "black" }
+            Label { anchors.right: parent.right; anchors.rightMargin: 12; anchors.verticalCenter: parent.verticalCenter; text: "›"; font.pixelSize: 28; color: QorTheme.isolationText }
         }
     }
     Component {
@@ -193,7 +193,7 @@ ListView {
                 x: 12; y: 10
                 width: parent.width - 24
                 text: row.text
-                color: "white"
+                color: QorTheme.pageText
                 font.pixelSize: 14
                 maximumLineCount: 5
                 wrapMode: Text.Wrap
@@ -211,8 +211,8 @@ ListView {
                 id: sourceCol
                 x: 12; y: 6
                 width: parent.width - 24
-                Label { objectName: "sourceNote"; text: row.note || ""; visible: text.length > 0; color: "#ffb045"; font.pixelSize: 12; width: parent.width; wrapMode: Text.Wrap }
-                Label { objectName: "sourceLine"; text: row.text || ""; color: "#9aa7b4"; font.pixelSize: 11; font.italic: true; width: parent.width; wrapMode: Text.Wrap }
+                Label { objectName: "sourceNote"; text: row.note || ""; visible: text.length > 0; color: QorTheme.accentText; font.pixelSize: 12; width: parent.width; wrapMode: Text.Wrap }
+                Label { objectName: "sourceLine"; text: row.text || ""; color: QorTheme.secondaryText; font.pixelSize: 11; font.italic: true; width: parent.width; wrapMode: Text.Wrap }
             }
         }
     }
@@ -228,18 +228,18 @@ ListView {
                 id: textCol
                 anchors { left: parent.left; leftMargin: 12; right: parent.right; rightMargin: 36; verticalCenter: parent.verticalCenter }
                 spacing: 2
-                Label { text: row.caption || ""; visible: text.length > 0; color: "#ffb045"; font.pixelSize: 14; font.bold: true; width: parent.width; wrapMode: Text.Wrap }
+                Label { text: row.caption || ""; visible: text.length > 0; color: QorTheme.accentText; font.pixelSize: 14; font.bold: true; width: parent.width; wrapMode: Text.Wrap }
                 Label {
                     text: row.text || ""
-                    color: "white"
+                    color: QorTheme.pageText
                     font.pixelSize: row.kind === "guide" ? 20 : 15
                     font.bold: row.kind === "guide" || row.kind === "entry" || row.kind === "provision"
                     wrapMode: Text.Wrap
                     width: parent.width
                 }
-                Label { text: row.detail || ""; visible: text.length > 0; color: "#cccccc"; font.pixelSize: 13; width: parent.width; wrapMode: Text.Wrap }
+                Label { text: row.detail || ""; visible: text.length > 0; color: QorTheme.secondaryText; font.pixelSize: 13; width: parent.width; wrapMode: Text.Wrap }
             }
-            Label { visible: opens; anchors.right: parent.right; anchors.rightMargin: 12; anchors.verticalCenter: parent.verticalCenter; text: "›"; font.pixelSize: 28; color: "#cccccc" }
+            Label { visible: opens; anchors.right: parent.right; anchors.rightMargin: 12; anchors.verticalCenter: parent.verticalCenter; text: "›"; font.pixelSize: 28; color: QorTheme.secondaryText }
         }
     }
 }

@@ -28,7 +28,7 @@ Dialog {
                 Layout.fillWidth: true
                 Layout.leftMargin: 12
                 text: dialog.title
-                color: "white"
+                color: QorTheme.pageText
                 font.bold: true
             }
             Button {

@@ -15,8 +15,10 @@ Page {
     title: qsTr("Guides")
     background: Rectangle { color: QorTheme.pageBackground }
     header: ToolBar {
+        implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
-        Label { anchors.centerIn: parent; text: qsTr("Guides"); color: "white"; font.bold: true }
+        palette { buttonText: QorTheme.barText; button: QorTheme.barPressed; highlight: QorTheme.barSelectedText; mid: QorTheme.barPressed }
+        Label { anchors.centerIn: parent; text: qsTr("Guides"); color: QorTheme.barText; font.bold: true }
     }
 
     GuideListViewController { id: controller }
@@ -59,13 +61,13 @@ Page {
                     anchors.verticalCenter: parent.verticalCenter
                     width: 48; height: 48
                     source: QorTheme.pdf(badge, 48, 48)
-                    Rectangle { anchors.fill: parent; radius: 24; color: "#ffb045"; visible: parent.status !== Image.Ready }
-                    Label { anchors.centerIn: parent; text: guideId; color: "black"; font.bold: true; font.pixelSize: 17 }
+                    Rectangle { anchors.fill: parent; radius: 24; color: QorTheme.guideBackground; visible: parent.status !== Image.Ready }
+                    Label { anchors.centerIn: parent; text: guideId; color: QorTheme.guideText; font.bold: true; font.pixelSize: 17 }
                 }
                 Label {
                     anchors { left: circle.right; leftMargin: 12; right: parent.right; verticalCenter: parent.verticalCenter }
                     text: name
-                    color: "white"
+                    color: QorTheme.pageText
                     font.pixelSize: 16
                     wrapMode: Text.Wrap
                     maximumLineCount: 2

@@ -14,7 +14,7 @@ Page {
     property alias host: host
     property alias textSheet: textSizeButton.sheet
     title: controller.title
-    background: Rectangle { color: "#ffb045" }
+    background: Rectangle { color: QorTheme.guideBackground }
 
     GuideViewController {
         id: controller
@@ -44,7 +44,7 @@ Page {
             text: "[ ]"
             font.pixelSize: 18
             width: QorTheme.touchTarget; height: QorTheme.touchTarget
-            palette.buttonText: "white"
+            palette.buttonText: QorTheme.barText
             Accessible.name: qsTr("Full screen")
             onClicked: AppDelegate.toggleFullscreen()
         }
@@ -53,7 +53,7 @@ Page {
             text: "•••"
             font.pixelSize: 22
             width: QorTheme.touchTarget; height: QorTheme.touchTarget
-            palette.buttonText: "white"
+            palette.buttonText: QorTheme.barText
             Accessible.name: qsTr("Share")
             onClicked: actionMenu.popup()
             Menu {
@@ -99,7 +99,7 @@ Page {
         width: Math.min(parent.width - 40, 320)
         height: promptText.implicitHeight + 40
         radius: 10
-        color: "#e0000000"
+        color: QorTheme.overlayBackground
         opacity: controller.rotatePromptVisible ? 1 : 0
         visible: opacity > 0
         Behavior on opacity { NumberAnimation { duration: 500 } }
@@ -109,7 +109,7 @@ Page {
             width: parent.width - 30
             wrapMode: Text.Wrap
             horizontalAlignment: Text.AlignHCenter
-            color: "white"
+            color: QorTheme.overlayText
             font.pixelSize: 16
             text: page.material ? qsTr("Widen the window to see the isolation distances beside the guide.")
                                 : qsTr("Widen the window for a landscape view of the guide.")

@@ -30,6 +30,7 @@ Page {
     header: ToolBar {
         implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
+        palette { buttonText: QorTheme.barText; button: QorTheme.barPressed; highlight: QorTheme.barSelectedText; mid: QorTheme.barPressed }
         RowLayout {
             anchors.centerIn: parent
             spacing: 0
@@ -42,10 +43,10 @@ Page {
                     text: modelData
                     checkable: true
                     checked: history.segment === index
-                    implicitHeight: 32
+                    implicitHeight: QorTheme.touchTarget
                     font.pixelSize: 13
-                    palette.button: checked ? QorTheme.tint : QorTheme.barBackground
-                    palette.buttonText: "white"
+                    palette.button: checked ? QorTheme.barText : QorTheme.barBackground
+                    palette.buttonText: checked ? QorTheme.barBackground : QorTheme.barText
                     onClicked: history.segment = index
                 }
             }
@@ -61,9 +62,9 @@ Page {
             text: PackStatus.notice
             visible: text.length > 0
             horizontalAlignment: Text.AlignHCenter
-            color: "#ffb045"
+            color: QorTheme.noticeText
             font.pixelSize: 11
-            background: Rectangle { color: "#1c2630" }
+            background: Rectangle { color: QorTheme.noticeBackground }
         }
 
         ListView {
@@ -88,7 +89,7 @@ Page {
                     y: 38
                     width: Math.max(60, row.width - 270)
                     text: row.verboseText
-                    color: "#e0e0e0"
+                    color: QorTheme.secondaryText
                     font.pixelSize: 12
                     horizontalAlignment: Text.AlignRight
                 }

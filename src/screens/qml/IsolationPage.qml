@@ -23,7 +23,7 @@ Page {
             font.bold: true
             font.italic: true
             width: QorTheme.touchTarget; height: QorTheme.touchTarget
-            palette.buttonText: "white"
+            palette.buttonText: QorTheme.barText
             Accessible.name: qsTr("About isolation distances")
             onClicked: table.delegateController.infoButtonClicked()
         }

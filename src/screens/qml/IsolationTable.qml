@@ -10,7 +10,7 @@ ListView {
     id: table
     property var material
     property alias delegateController: iso
-    readonly property color green: Appearance.dark ? QorTheme.isolationGreenDark : QorTheme.isolationGreen
+    readonly property color green: QorTheme.isolationGreen
     signal infoRequested(string page, string title)
     clip: true
     boundsBehavior: Flickable.StopAtBounds
@@ -42,7 +42,7 @@ ListView {
             width: parent.width
             height: 30
             color: table.green
-            Label { x: 12; anchors.verticalCenter: parent.verticalCenter; text: qsTr("Protective action zone"); font.pixelSize: 15; font.bold: true; color: "black" }
+            Label { x: 12; anchors.verticalCenter: parent.verticalCenter; text: qsTr("Protective action zone"); font.pixelSize: 15; font.bold: true; color: QorTheme.isolationText }
         }
         Flow {
             x: 12
@@ -109,15 +109,15 @@ ListView {
                 objectName: "compass"
                 width: 110; height: 110; radius: 55
                 color: "transparent"
-                border.color: "white"
+                border.color: QorTheme.pageText
                 border.width: 2
                 Accessible.name: qsTr("Wind direction compass")
-                Label { text: "N"; color: "white"; font.bold: true; anchors.horizontalCenter: parent.horizontalCenter; y: 4 }
+                Label { text: "N"; color: QorTheme.pageText; font.bold: true; anchors.horizontalCenter: parent.horizontalCenter; y: 4 }
                 Rectangle {
                     id: needle
                     width: 6; height: 46
                     radius: 3
-                    color: "#8ab4f8"
+                    color: QorTheme.tintText
                     x: compass.width / 2 - width / 2
                     y: compass.height / 2 - height
                     transform: Rotation { origin.x: needle.width / 2; origin.y: needle.height; angle: zone.windFrom }
@@ -132,7 +132,7 @@ ListView {
             Column {
                 anchors.verticalCenter: parent.verticalCenter
                 spacing: 4
-                Label { text: qsTr("Wind from (degrees)"); color: "white"; font.bold: true }
+                Label { text: qsTr("Wind from (degrees)"); color: QorTheme.pageText; font.bold: true }
                 TextField {
                     objectName: "windField"
                     text: Math.round(zone.windFrom)
@@ -159,7 +159,7 @@ ListView {
             x: 12
             width: parent.width - 24
             text: zone.summary
-            color: "white"
+            color: QorTheme.pageText
             wrapMode: Text.Wrap
         }
         Flow {
@@ -185,7 +185,7 @@ ListView {
             width: parent.width - 24
             visible: text.length > 0
             text: zone.sheetStatus
-            color: "white"
+            color: QorTheme.pageText
             wrapMode: Text.WrapAnywhere
         }
     }
@@ -199,7 +199,7 @@ ListView {
             x: 12; y: 10
             width: parent.width - 24
             spacing: 8
-            Label { text: iso.headerLabel; font.pixelSize: 22; font.bold: true; color: "black"; wrapMode: Text.Wrap; width: parent.width }
+            Label { text: iso.headerLabel; font.pixelSize: 22; font.bold: true; color: QorTheme.isolationText; wrapMode: Text.Wrap; width: parent.width }
             Row {
                 objectName: "unitsSwitch"
                 spacing: 0
@@ -219,8 +219,8 @@ ListView {
                     }
                 }
             }
-            Label { text: PackStatus.notice; visible: text.length > 0; color: "#402000"; font.pixelSize: 12; font.bold: true }
-            Label { objectName: "sourceLine"; text: iso.sourceLine; visible: !iso.empty; color: "#203020"; font.pixelSize: 11; font.italic: true; wrapMode: Text.Wrap; width: parent.width }
+            Label { text: PackStatus.notice; visible: text.length > 0; color: QorTheme.isolationText; font.pixelSize: 12; font.bold: true }
+            Label { objectName: "sourceLine"; text: iso.sourceLine; visible: !iso.empty; color: QorTheme.isolationText; font.pixelSize: 11; font.italic: true; wrapMode: Text.Wrap; width: parent.width }
         }
     }
 
@@ -239,7 +239,7 @@ ListView {
                 text: section.modelData.title
                 font.pixelSize: 15
                 font.bold: true
-                color: "black"
+                color: QorTheme.isolationText
                 fontSizeMode: Text.HorizontalFit
                 minimumPixelSize: 10
             }
@@ -269,8 +269,8 @@ ListView {
         property url icon
         width: parent ? parent.width : 0
         Image { visible: icon.toString().length > 0; source: icon; Layout.preferredWidth: 28; Layout.preferredHeight: 28 }
-        Label { text: caption; color: "white"; font.pixelSize: 15; font.bold: true; Layout.fillWidth: true; wrapMode: Text.Wrap }
-        Label { text: value; color: "#ffd27f"; font.pixelSize: 26; font.bold: true; horizontalAlignment: Text.AlignRight }
+        Label { text: caption; color: QorTheme.pageText; font.pixelSize: 15; font.bold: true; Layout.fillWidth: true; wrapMode: Text.Wrap }
+        Label { text: value; color: QorTheme.valueText; font.pixelSize: 26; font.bold: true; horizontalAlignment: Text.AlignRight }
     }
 
     Component {
@@ -284,9 +284,9 @@ ListView {
                     required property string modelData
                     width: parent.width
                     spacing: 2
-                    Label { text: modelData === "small" ? qsTr("Small Spill") : qsTr("Large Spill"); color: "white"; font.pixelSize: 17; font.bold: true }
+                    Label { text: modelData === "small" ? qsTr("Small Spill") : qsTr("Large Spill"); color: QorTheme.pageText; font.pixelSize: 17; font.bold: true }
                     Figure { caption: qsTr("First ISOLATE in all Directions for :"); value: cell[modelData + "Isolate"] }
-                    Label { text: qsTr("Then protect persons Downwind"); color: "white"; font.pixelSize: 15; font.bold: true }
+                    Label { text: qsTr("Then protect persons Downwind"); color: QorTheme.pageText; font.pixelSize: 15; font.bold: true }
                     Figure { caption: qsTr("(Day) :"); icon: iso.dayIcon; value: cell[modelData + "Day"] }
                     Figure { caption: qsTr("(Night) :"); icon: iso.nightIcon; value: cell[modelData + "Night"] }
                 }
@@ -298,9 +298,9 @@ ListView {
         Column {
             readonly property var cell: parent ? parent.cell : ({})
             spacing: 2
-            Label { text: qsTr("Large Spill"); color: "white"; font.pixelSize: 17; font.bold: true }
+            Label { text: qsTr("Large Spill"); color: QorTheme.pageText; font.pixelSize: 17; font.bold: true }
             Figure { caption: qsTr("First ISOLATE in all Directions for :"); value: cell.isolate }
-            Label { text: qsTr("Then protect persons Downwind"); color: "white"; font.pixelSize: 15; font.bold: true }
+            Label { text: qsTr("Then protect persons Downwind"); color: QorTheme.pageText; font.pixelSize: 15; font.bold: true }
             Figure { caption: qsTr("(Day)"); icon: iso.dayIcon }
             Repeater { model: 3; Figure { required property int index; caption: cell.windCaptions[index]; value: cell.day[index] } }
             Figure { caption: qsTr("(Night)"); icon: iso.nightIcon }

@@ -10,6 +10,16 @@ ApplicationWindow {
     visible: true
     title: qsTr("QOR")
     color: QorTheme.pageBackground
+    // Controls without colours of their own follow the theme, not the desktop.
+    palette.window: QorTheme.pageBackground
+    palette.windowText: QorTheme.pageText
+    palette.base: QorTheme.fieldBackground
+    palette.text: QorTheme.pageText
+    palette.placeholderText: QorTheme.secondaryText
+    palette.button: QorTheme.sectionBackground
+    palette.buttonText: QorTheme.pageText
+    palette.highlight: QorTheme.rowHighlight
+    palette.highlightedText: QorTheme.pageText
 
     readonly property bool tablet: AppDelegate.tablet
     property alias materialList: materialListPage
@@ -92,6 +102,13 @@ ApplicationWindow {
         return tabStacks.itemAt(tabStacks.currentIndex)
     }
 
+    // Night mode on a bright desktop, or the other way round.
+    Shortcut {
+        objectName: "appearanceShortcut"
+        sequence: "Ctrl+Shift+D"
+        onActivated: QorTheme.toggle()
+    }
+
     // Esc goes back one screen wherever focus is.
     Shortcut {
         sequences: [StandardKey.Back, "Esc"]
@@ -166,7 +183,8 @@ ApplicationWindow {
                             font.pixelSize: 12
                             checkable: true
                             checked: AppDelegate.currentTab === modelData.tab
-                            palette.buttonText: checked ? QorTheme.tint : "white"
+                            palette.buttonText: checked ? QorTheme.barSelectedText : QorTheme.barText
+                            palette { button: QorTheme.barPressed; highlight: QorTheme.barSelectedText; mid: QorTheme.barPressed }
                             Accessible.role: Accessible.PageTab
                             Accessible.name: modelData.text
                             onClicked: AppDelegate.currentTab = modelData.tab
@@ -180,7 +198,7 @@ ApplicationWindow {
             visible: window.tablet
             Layout.fillHeight: true
             Layout.preferredWidth: 1
-            color: "black"
+            color: QorTheme.divider
         }
 
         // Tablet detail area: the material chosen in any list.
@@ -243,7 +261,7 @@ ApplicationWindow {
             Label {
                 anchors.centerIn: parent
                 text: qsTr("Choose a material")
-                color: "#cccccc"
+                color: QorTheme.secondaryText
                 font.pixelSize: 20
             }
         }

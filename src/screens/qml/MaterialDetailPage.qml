@@ -50,13 +50,26 @@ Page {
                     height: QorTheme.touchTarget
                     checkable: true
                     checked: controller.selectedViewIndex === index
-                    icon.source: QorTheme.pdf(modelData, index === 1 ? 44 : 26, index === 1 ? 22 : 26)
+                    // Drawn at the size shown, so the artwork stays crisp at any scale.
+                    readonly property size iconSize: [Qt.size(21, 21), Qt.size(44, 22), Qt.size(30, 30)][index]
+                    icon.source: QorTheme.pdf(modelData, iconSize.width, iconSize.height)
+                    icon.width: iconSize.width
+                    icon.height: iconSize.height
                     icon.color: "transparent"
                     text: [qsTr("Summary"), qsTr("Shipping"), qsTr("Protection")][index]
-                    display: AbstractButton.TextBesideIcon
+                    // A narrow segment shows its picture alone rather than a cut-off word.
+                    display: width >= 130 ? AbstractButton.TextBesideIcon : AbstractButton.IconOnly
+                    palette.buttonText: checked ? QorTheme.barSelectedText : QorTheme.barText
                     font.pixelSize: 12
+                    font.bold: checked
                     Accessible.name: text
                     onClicked: controller.selectedViewIndex = index
+                    Rectangle {
+                        visible: parent.checked
+                        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+                        height: 3
+                        color: QorTheme.barSelectedText
+                    }
                 }
             }
         }

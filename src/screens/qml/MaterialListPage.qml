@@ -64,6 +64,7 @@ Page {
 
     header: ToolBar {
         background: Rectangle { color: QorTheme.barBackground }
+        palette { buttonText: QorTheme.barText; button: QorTheme.barPressed; highlight: QorTheme.barSelectedText; mid: QorTheme.barPressed }
         RowLayout {
             anchors.fill: parent
             spacing: 4
@@ -95,7 +96,7 @@ Page {
                 objectName: "listTitle"
                 Layout.fillWidth: true
                 text: list.title
-                color: "white"
+                color: QorTheme.barText
                 font.bold: true
                 font.pixelSize: 14
                 elide: Text.ElideRight
@@ -132,9 +133,9 @@ Page {
             text: PackStatus.notice
             visible: text.length > 0
             horizontalAlignment: Text.AlignHCenter
-            color: "#ffb045"
+            color: QorTheme.noticeText
             font.pixelSize: 11
-            background: Rectangle { color: "#1c2630" }
+            background: Rectangle { color: QorTheme.noticeBackground }
         }
 
         Label {
@@ -143,7 +144,7 @@ Page {
             Layout.margins: 6
             text: list.incidentsNote
             visible: text.length > 0
-            color: "#cccccc"
+            color: QorTheme.secondaryText
             font.pixelSize: 12
             wrapMode: Text.Wrap
         }
@@ -189,7 +190,7 @@ Page {
                         x: 10
                         anchors.verticalCenter: parent.verticalCenter
                         text: list.searching ? "" : list.sectionTitle(parent.section)
-                        color: "white"
+                        color: QorTheme.sectionText
                         font.bold: true
                     }
                 }
@@ -209,7 +210,7 @@ Page {
                 width: parent.width - 40
                 text: list.emptyText
                 visible: text.length > 0
-                color: "#cccccc"
+                color: QorTheme.secondaryText
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
             }
@@ -225,7 +226,7 @@ Page {
                 visible: list.searching && listView.count === 0 && list.suggestions.length > 0
                 Label {
                     text: qsTr("Did you mean")
-                    color: "white"
+                    color: QorTheme.pageText
                     font.bold: true
                     font.pixelSize: 16
                     bottomPadding: 6
@@ -245,7 +246,7 @@ Page {
                         }
                         contentItem: Label {
                             text: modelData.name + "   UN" + modelData.unId + "  ·  " + qsTr("Guide") + " " + modelData.guideId
-                            color: "white"
+                            color: QorTheme.pageText
                             elide: Text.ElideRight
                             verticalAlignment: Text.AlignVCenter
                         }
@@ -256,34 +257,79 @@ Page {
                 }
             }
 
-            // Side index: touching a key scrolls to its section.
-            Column {
+            // Side index: touching or dragging along it scrolls to a section.
+            // When the keys do not fit, it shows a subset with "•" between.
+            Item {
                 id: sideIndex
-                anchors.right: parent.right
-                anchors.top: parent.top
-                width: 36
+                objectName: "sideIndex"
+                anchors { right: parent.right; top: parent.top; bottom: parent.bottom }
+                width: QorTheme.touchTarget
                 visible: list.sectionIndex.length > 0
-                Repeater {
-                    model: list.sectionIndex
-                    delegate: Label {
-                        required property string modelData
-                        width: 36
-                        height: Math.max(12, Math.min(22, (page.height - 160) / Math.max(1, list.sectionIndex.length)))
-                        text: modelData.trim().substring(0, 4)
-                        font.pixelSize: 10
-                        color: QorTheme.tint
-                        horizontalAlignment: Text.AlignHCenter
-                        MouseArea {
-                            anchors.fill: parent
-                            onClicked: {
-                                var row = list.rowForSectionKey(parent.modelData)
-                                if (row < 0)
-                                    listView.positionViewAtBeginning()
-                                else
-                                    listView.positionViewAtIndex(row, ListView.Beginning)
-                            }
+                readonly property int entryHeight: 22
+                readonly property var entries: list.sectionIndex.length > 0 ? list.sideIndexEntries(Math.floor(height / entryHeight)) : []
+                property string shownKey: ""
+
+                function scrollTo(key) {
+                    shownKey = key
+                    var row = list.rowForSectionKey(key)
+                    if (row < 0)
+                        listView.positionViewAtBeginning()
+                    else
+                        listView.positionViewAtIndex(row, ListView.Beginning)
+                }
+
+                Column {
+                    id: indexColumn
+                    anchors.centerIn: parent
+                    Repeater {
+                        model: sideIndex.entries
+                        delegate: Label {
+                            required property var modelData
+                            width: sideIndex.width
+                            height: sideIndex.entryHeight
+                            text: modelData.label
+                            font.pixelSize: 13
+                            font.bold: true
+                            color: QorTheme.tintText
+                            horizontalAlignment: Text.AlignHCenter
+                            verticalAlignment: Text.AlignVCenter
                         }
                     }
+                }
+                MouseArea {
+                    anchors.fill: parent
+                    preventStealing: true
+                    // A touch takes the entry under it; a drag passes over every key.
+                    onPressed: function(mouse) {
+                        var i = Math.floor((mouse.y - indexColumn.y) / sideIndex.entryHeight)
+                        if (i >= 0 && i < sideIndex.entries.length)
+                            sideIndex.scrollTo(sideIndex.entries[i].key)
+                    }
+                    onPositionChanged: function(mouse) {
+                        var key = list.sideIndexKeyAt((mouse.y - indexColumn.y) / Math.max(1, indexColumn.height))
+                        if (key !== "" && key !== sideIndex.shownKey)
+                            sideIndex.scrollTo(key)
+                    }
+                    onReleased: sideIndex.shownKey = ""
+                    onCanceled: sideIndex.shownKey = ""
+                }
+            }
+            // The key under the finger, large, beside the index.
+            Rectangle {
+                objectName: "sideIndexBubble"
+                visible: sideIndex.shownKey !== ""
+                anchors { right: sideIndex.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
+                width: Math.max(72, bubbleLabel.implicitWidth + 24)
+                height: 72
+                radius: 10
+                color: QorTheme.sectionBackground
+                Label {
+                    id: bubbleLabel
+                    anchors.centerIn: parent
+                    text: sideIndex.shownKey.trim()
+                    font.pixelSize: 32
+                    font.bold: true
+                    color: QorTheme.sectionText
                 }
             }
         }

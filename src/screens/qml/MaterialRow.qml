@@ -32,13 +32,13 @@ ItemDelegate {
                 Layout.fillWidth: true
                 text: row.name
                 enabled: row.rowEnabled
-                color: row.rowEnabled ? "white" : "#8899aa"
+                color: row.rowEnabled ? QorTheme.pageText : QorTheme.disabledText
                 font.pixelSize: 15
                 elide: Text.ElideRight
             }
             Label {
                 text: "UN" + row.unId
-                color: "#ffb045"
+                color: QorTheme.accentText
                 font.bold: true
                 font.pixelSize: 13
             }
@@ -46,11 +46,11 @@ ItemDelegate {
         Label {
             visible: row.incidentsText !== ""
             text: row.incidentsText
-            color: "#e0e0e0"
+            color: QorTheme.secondaryText
         }
     }
     background: Rectangle {
-        color: row.highlighted ? "#3d566e" : (row.visualFocus ? "#34495e" : "transparent")
+        color: row.highlighted ? QorTheme.rowHighlight : (row.visualFocus ? QorTheme.rowFocus : "transparent")
         border.color: row.visualFocus ? QorTheme.tint : "transparent"
         border.width: 2
     }

@@ -1,4 +1,5 @@
 import QtQuick
+import QOR
 
 // The NFPA 704 diamond: health (blue, left), fire (red, top), reactivity
 // (yellow, right) and special hazards (white, bottom).
@@ -21,17 +22,17 @@ Item {
             columns: 2
             Repeater {
                 model: [
-                    { c: "#d7261e", v: diamond.fire, n: "fire" },
-                    { c: "#f7e11b", v: diamond.risk, n: "risk" },
-                    { c: "#1f5fae", v: diamond.health, n: "health" },
-                    { c: "#ffffff", v: diamond.other, n: "other" }
+                    { c: QorTheme.nfpaFire, v: diamond.fire, n: "fire" },
+                    { c: QorTheme.nfpaReactivity, v: diamond.risk, n: "risk" },
+                    { c: QorTheme.nfpaHealth, v: diamond.health, n: "health" },
+                    { c: QorTheme.nfpaSpecial, v: diamond.other, n: "other" }
                 ]
                 Rectangle {
                     required property var modelData
                     width: diamond.side / 2
                     height: diamond.side / 2
                     color: modelData.c
-                    border.color: "black"
+                    border.color: QorTheme.nfpaText
                     border.width: 2
                     Text {
                         objectName: "nfpa_" + modelData.n
@@ -40,7 +41,7 @@ Item {
                         text: modelData.v
                         font.pixelSize: diamond.side / 4.5
                         font.bold: true
-                        color: modelData.n === "health" ? "white" : "black"
+                        color: modelData.n === "health" ? QorTheme.nfpaHealthText : QorTheme.nfpaText
                     }
                 }
             }

@@ -42,7 +42,7 @@ Item {
         id: web
         anchors.fill: parent
         zoomFactor: host.zoom
-        backgroundColor: "#ffb045"
+        backgroundColor: QorTheme.guideBackground
         onLoadingChanged: function(request) {
             if (request.status === WebEngineView.LoadSucceededStatus || request.status === WebEngineView.LoadFailedStatus) {
                 var ok = request.status === WebEngineView.LoadSucceededStatus

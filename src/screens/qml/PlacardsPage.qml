@@ -22,6 +22,7 @@ Page {
     header: ToolBar {
         implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
+        palette { buttonText: QorTheme.barText; button: QorTheme.barPressed; highlight: QorTheme.barSelectedText; mid: QorTheme.barPressed }
         RowLayout {
             anchors.fill: parent
             ToolButton {
@@ -33,7 +34,7 @@ Page {
             Label {
                 Layout.fillWidth: true
                 text: page.title
-                color: "white"
+                color: QorTheme.barText
                 font.bold: true
                 horizontalAlignment: Text.AlignHCenter
             }
@@ -54,9 +55,9 @@ Page {
                 text: PackStatus.notice
                 visible: text.length > 0
                 horizontalAlignment: Text.AlignHCenter
-                color: "#ffb045"
+                color: QorTheme.noticeText
                 font.pixelSize: 11
-                background: Rectangle { color: "#1c2630" }
+                background: Rectangle { color: QorTheme.noticeBackground }
             }
             Label {
                 objectName: "placardSectionHeader"
@@ -64,7 +65,7 @@ Page {
                 padding: 10
                 text: placards.sectionHeader
                 wrapMode: Text.Wrap
-                color: "white"
+                color: QorTheme.sectionText
                 font.bold: true
                 font.pixelSize: 13
                 background: Rectangle { color: QorTheme.sectionBackground }
@@ -105,10 +106,10 @@ Page {
                 anchors.rightMargin: 12
                 anchors.verticalCenter: parent.verticalCenter
                 text: "›"
-                color: "#cccccc"
+                color: QorTheme.secondaryText
                 font.pixelSize: 24
             }
-            background: Rectangle { color: row.highlighted || row.down ? "#3d566e" : "transparent" }
+            background: Rectangle { color: row.highlighted || row.down ? QorTheme.rowHighlight : "transparent" }
         }
         ScrollBar.vertical: ScrollBar {}
     }

@@ -27,6 +27,7 @@ Page {
     header: ToolBar {
         implicitHeight: QorTheme.touchTarget
         background: Rectangle { color: QorTheme.barBackground }
+        palette { buttonText: QorTheme.barText; button: QorTheme.barPressed; highlight: QorTheme.barSelectedText; mid: QorTheme.barPressed }
         RowLayout {
             anchors.fill: parent
             // The wide layout has no About tab; its About is reached from here.
@@ -43,7 +44,7 @@ Page {
             Label {
                 Layout.fillWidth: true
                 text: page.title
-                color: "white"
+                color: QorTheme.barText
                 font.bold: true
                 horizontalAlignment: Text.AlignHCenter
             }
@@ -70,9 +71,9 @@ Page {
             visible: text.length > 0
             height: visible ? implicitHeight : 0
             horizontalAlignment: Text.AlignHCenter
-            color: "#ffb045"
+            color: QorTheme.noticeText
             font.pixelSize: 11
-            background: Rectangle { color: "#1c2630" }
+            background: Rectangle { color: QorTheme.noticeBackground }
         }
         footer: SourceLine { width: ListView.view.width; text: reference.sourceLine }
         section.property: "section"
@@ -85,7 +86,7 @@ Page {
                 x: 10
                 anchors.verticalCenter: parent.verticalCenter
                 text: parent.section
-                color: "white"
+                color: QorTheme.sectionText
                 font.bold: true
                 font.pixelSize: 15
             }
@@ -95,7 +96,11 @@ Page {
             required property int index
             required property string title
             required property string subtitle
+            required property color rowColor
             required property color darkRowColor
+            required property int sectionNumber
+            // Table rows are green: dark text reads on both greens.
+            readonly property bool onGreen: sectionNumber === ReferenceViewController.TablesSection && !(down || highlighted)
             width: ListView.view.width
             height: subtitle === "" ? reference.rowHeight : reference.rowHeight + 14
             highlighted: ListView.isCurrentItem
@@ -109,23 +114,22 @@ Page {
                     Label {
                         Layout.fillWidth: true
                         text: row.title
-                        color: "white"
+                        color: row.onGreen ? QorTheme.isolationText : QorTheme.pageText
                         font.pixelSize: 14
                         elide: Text.ElideRight
                     }
                     Label {
                         visible: row.subtitle !== ""
                         text: row.subtitle
-                        color: "#e0e0e0"
+                        color: row.onGreen ? QorTheme.isolationText : QorTheme.secondaryText
                         font.pixelSize: 11
                     }
                 }
-                Label { text: "›"; color: "#cccccc"; font.pixelSize: 22 }
+                Label { text: "›"; color: row.onGreen ? QorTheme.isolationText : QorTheme.secondaryText; font.pixelSize: 22 }
             }
-            // The app is dark, so rows take the dark-appearance colours.
             background: Rectangle {
-                color: row.down || row.highlighted ? "#3d566e" : row.darkRowColor
-                Rectangle { anchors.bottom: parent.bottom; width: parent.width; height: 1; color: "#1c2630" }
+                color: row.down || row.highlighted ? QorTheme.rowHighlight : (QorTheme.dark ? row.darkRowColor : row.rowColor)
+                Rectangle { anchors.bottom: parent.bottom; width: parent.width; height: 1; color: QorTheme.separator }
             }
         }
         ScrollBar.vertical: ScrollBar {}

@@ -12,7 +12,7 @@ Page {
     footer: SourceLine { text: page.source }
     property string backText: qsTr("Back")
     property alias web: web
-    background: Rectangle { color: "white" }
+    background: Rectangle { color: QorTheme.cardBackground }
     header: BarHeader { page: page; title: page.title; backText: page.backText }
     WebEngineView {
         id: web

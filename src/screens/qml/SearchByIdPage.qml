@@ -14,7 +14,8 @@ Page {
 
     header: ToolBar {
         background: Rectangle { color: QorTheme.barBackground }
-        Label { anchors.centerIn: parent; text: qsTr("Search"); color: "white"; font.bold: true }
+        palette { buttonText: QorTheme.barText; button: QorTheme.barPressed; highlight: QorTheme.barSelectedText; mid: QorTheme.barPressed }
+        Label { anchors.centerIn: parent; text: qsTr("Search"); color: QorTheme.barText; font.bold: true }
     }
 
     function open() {
@@ -49,7 +50,7 @@ Page {
             Layout.fillWidth: true
             Layout.preferredHeight: 270
             radius: 6
-            color: "#1c2630"
+            color: QorTheme.noticeBackground
             ColumnLayout {
                 anchors.centerIn: parent
                 spacing: 6
@@ -61,10 +62,10 @@ Page {
                     source: QorTheme.pdf(search.placardImage, 120, 120)
                     visible: search.placardImage !== ""
                 }
-                Label { Layout.alignment: Qt.AlignHCenter; text: search.name; color: "white"; font.pixelSize: 20; font.bold: true }
-                Label { Layout.alignment: Qt.AlignHCenter; text: search.hazardClass === "" ? "" : qsTr("Hazard Class") + " " + search.hazardClass; color: "#e0e0e0" }
-                Label { Layout.alignment: Qt.AlignHCenter; text: search.classDescription; color: "#e0e0e0" }
-                Label { Layout.alignment: Qt.AlignHCenter; text: search.unIdText; color: "#ffb045"; font.pixelSize: 24; font.bold: true }
+                Label { Layout.alignment: Qt.AlignHCenter; text: search.name; color: QorTheme.pageText; font.pixelSize: 20; font.bold: true }
+                Label { Layout.alignment: Qt.AlignHCenter; text: search.hazardClass === "" ? "" : qsTr("Hazard Class") + " " + search.hazardClass; color: QorTheme.secondaryText }
+                Label { Layout.alignment: Qt.AlignHCenter; text: search.classDescription; color: QorTheme.secondaryText }
+                Label { Layout.alignment: Qt.AlignHCenter; text: search.unIdText; color: QorTheme.accentText; font.pixelSize: 24; font.bold: true }
             }
         }
 

@@ -7,7 +7,7 @@ Label {
     visible: text.length > 0
     padding: 6
     leftPadding: 12
-    color: "#9aa7b4"
+    color: QorTheme.secondaryText
     font.pixelSize: 11
     font.italic: true
     wrapMode: Text.Wrap

@@ -12,7 +12,7 @@ ToolButton {
     text: "Aa"
     font.pixelSize: 18
     width: QorTheme.touchTarget; height: QorTheme.touchTarget
-    palette.buttonText: "white"
+    palette.buttonText: QorTheme.barText
     Accessible.name: qsTr("Text size")
     onClicked: sheet.open()
 

@@ -1,0 +1,159 @@
+// The theme's colours stay legible in both appearances, the user's choice of
+// appearance overrides the system's, and the side index fits its height.
+#include "GuideControllers.h"
+#include "SideIndex.h"
+#include "Theme.h"
+
+#include <QSet>
+#include <QSettings>
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+using namespace qor;
+
+namespace {
+
+TEST(Contrast, KnownRatios)
+{
+    EXPECT_NEAR(contrastRatio(Qt::black, Qt::white), 21.0, 1e-9);
+    EXPECT_NEAR(contrastRatio(Qt::white, Qt::black), 21.0, 1e-9); // order does not matter
+    EXPECT_NEAR(contrastRatio(QColor(0x77, 0x77, 0x77), Qt::white), 4.48, 0.01);
+    EXPECT_NEAR(contrastRatio(QColor(0x2c, 0x3e, 0x50), QColor(0x16, 0xa0, 0x85)), 3.35, 0.01);
+    EXPECT_NEAR(contrastRatio(QColor(0x40, 0x80, 0xc0), QColor(0x40, 0x80, 0xc0)), 1.0, 1e-9);
+}
+
+TEST(Theme, EveryPairIsLegibleInBothAppearances)
+{
+    for (const bool dark : { false, true }) {
+        for (const ThemePair& pair : themePairs()) {
+            const QColor text = themeColor(pair.text, dark);
+            const QColor background = themeColor(pair.background, dark);
+            ASSERT_TRUE(text.isValid()) << pair.text;
+            ASSERT_TRUE(background.isValid()) << pair.background;
+            const double needed = pair.large ? kMinLargeContrast : kMinContrast;
+            EXPECT_GE(contrastRatio(text, background), needed)
+                << pair.text << " on " << pair.background << (dark ? " (dark)" : " (light)");
+        }
+    }
+}
+
+// A text colour no pair checks could be drawn anywhere, unchecked.
+TEST(Theme, EveryTextColourIsPairedAndEveryRoleUnique)
+{
+    QSet<QByteArray> names;
+    QSet<QByteArray> paired;
+    for (const ThemePair& pair : themePairs())
+        paired.insert(pair.text);
+    for (const ThemeRole& role : themeRoles()) {
+        EXPECT_FALSE(names.contains(role.name)) << "twice: " << role.name;
+        names.insert(role.name);
+        const QByteArray name(role.name);
+        if (name.endsWith("Text"))
+            EXPECT_TRUE(paired.contains(name)) << name.constData() << " is on no background";
+    }
+}
+
+TEST(Theme, LightContentIsLightAndBarsKeepTheirNavy)
+{
+    EXPECT_GT(themeColor("pageBackground", false).lightness(), 200);
+    EXPECT_LT(themeColor("pageText", false).lightness(), 60);
+    EXPECT_LT(themeColor("pageBackground", true).lightness(), 60);
+    EXPECT_EQ(themeColor("barBackground", false), QColor(44, 62, 80));
+    EXPECT_EQ(themeColor("barBackground", true), QColor(44, 62, 80));
+    EXPECT_EQ(themeColor("isolationGreen", false), QColor(156, 188, 156));
+    EXPECT_EQ(themeColor("isolationGreen", true), QColor(105, 137, 105));
+    EXPECT_FALSE(themeColor("noSuchRole", false).isValid());
+}
+
+struct AppearanceChoiceTest : ::testing::Test {
+    void SetUp() override { Appearance::setChoice(QStringLiteral("system")); }
+    void TearDown() override { Appearance::setChoice(QStringLiteral("system")); }
+};
+
+TEST_F(AppearanceChoiceTest, ChoiceOverridesTheSystemAndRecolours)
+{
+    QorTheme theme;
+    const bool system = Appearance::systemDark();
+    EXPECT_EQ(theme.dark(), system);
+    EXPECT_EQ(theme.choice(), QStringLiteral("system"));
+
+    QSignalSpy changed(&theme, &QorTheme::darkChanged);
+    theme.toggle();
+    EXPECT_EQ(theme.dark(), !system);
+    EXPECT_EQ(theme.choice(), system ? QStringLiteral("light") : QStringLiteral("dark"));
+    EXPECT_EQ(theme.value(QStringLiteral("pageBackground")).value<QColor>(), themeColor("pageBackground", !system));
+    EXPECT_GE(changed.count(), 1);
+    // Stored, so a theme made later (another window, the next start) agrees.
+    QorTheme later;
+    EXPECT_EQ(later.dark(), !system);
+
+    theme.setChoice(QStringLiteral("nonsense"));
+    EXPECT_EQ(theme.choice(), QStringLiteral("system"));
+    EXPECT_EQ(theme.dark(), system);
+    EXPECT_EQ(later.dark(), system);
+}
+
+QStringList keys(int n)
+{
+    QStringList list;
+    for (int i = 0; i < n; ++i)
+        list << QStringLiteral("K%1").arg(i);
+    return list;
+}
+
+QStringList labels(const QList<SideIndexEntry>& entries)
+{
+    QStringList list;
+    for (const SideIndexEntry& e : entries)
+        list << e.label;
+    return list;
+}
+
+TEST(SideIndex, AllKeysWhenTheyFit)
+{
+    const QStringList letters{ "A", "B", " 111 ", "GUIDE128" };
+    EXPECT_EQ(labels(condenseSideIndex(letters, 4)), (QStringList{ "A", "B", "111", "GUID" }));
+    EXPECT_EQ(condenseSideIndex(letters, 30).size(), 4);
+    EXPECT_TRUE(condenseSideIndex(letters, 0).isEmpty());
+    EXPECT_TRUE(condenseSideIndex({}, 10).isEmpty());
+}
+
+TEST(SideIndex, SubsetWithDotsFitsAndKeepsEnds)
+{
+    const QStringList many = keys(61);
+    for (int capacity = 1; capacity < 61; ++capacity) {
+        const auto entries = condenseSideIndex(many, capacity);
+        ASSERT_FALSE(entries.isEmpty()) << capacity;
+        EXPECT_LE(entries.size(), capacity) << capacity;
+        EXPECT_EQ(entries.first().keyIndex, 0);
+        if (capacity >= 3)
+            EXPECT_EQ(entries.last().keyIndex, 60) << capacity;
+        int last = -1;
+        for (int i = 0; i < entries.size(); ++i) {
+            // Keys and dots alternate, and every entry leads further down the list.
+            EXPECT_EQ(entries[i].label == QStringLiteral("•"), i % 2 == 1) << capacity << " at " << i;
+            EXPECT_GT(entries[i].keyIndex, last) << capacity << " at " << i;
+            last = entries[i].keyIndex;
+        }
+    }
+    // A 61-key guide sort in a window that holds 25 entries: 13 keys and 12 dots.
+    const auto entries = condenseSideIndex(many, 25);
+    EXPECT_EQ(entries.size(), 25);
+    EXPECT_EQ(entries.at(2).label, QStringLiteral("K5"));
+}
+
+TEST(SideIndex, DragReachesEveryKey)
+{
+    EXPECT_EQ(sideIndexKeyAt(61, 0.0), 0);
+    EXPECT_EQ(sideIndexKeyAt(61, 1.0), 60);
+    EXPECT_EQ(sideIndexKeyAt(61, -0.3), 0);  // finger dragged above the index
+    EXPECT_EQ(sideIndexKeyAt(61, 7.0), 60);  // and below it
+    EXPECT_EQ(sideIndexKeyAt(0, 0.5), -1);
+    EXPECT_EQ(sideIndexKeyAt(10, std::nan("")), -1);
+    QSet<int> reached;
+    for (int step = 0; step <= 1000; ++step)
+        reached.insert(sideIndexKeyAt(61, step / 1000.0));
+    EXPECT_EQ(reached.size(), 61);
+}
+
+} // namespace
