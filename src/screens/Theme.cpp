@@ -173,11 +173,6 @@ void QorTheme::toggle()
     setChoice(dark() ? QStringLiteral("light") : QStringLiteral("dark"));
 }
 
-QString QorTheme::sampleNotice()
-{
-    return QCoreApplication::translate("QorTheme", "Sample data — not for operational use");
-}
-
 QString QorTheme::pdf(const QString& name, double w, double h)
 {
     if (name.isEmpty())

@@ -43,7 +43,6 @@ class QorTheme : public QQmlPropertyMap {
     // "system" (follow the desktop), "light" or "dark"; stored as "appearance".
     Q_PROPERTY(QString choice READ choice WRITE setChoice NOTIFY darkChanged)
     Q_PROPERTY(int touchTarget READ touchTarget CONSTANT)
-    Q_PROPERTY(QString sampleNotice READ sampleNotice CONSTANT)
 public:
     explicit QorTheme(QObject* parent = nullptr);
 
@@ -53,7 +52,6 @@ public:
     // Switches to the other appearance, remembering it as the user's choice.
     Q_INVOKABLE void toggle();
     static int touchTarget() { return 44; }
-    static QString sampleNotice();
     // An image of the pack's PDF artwork at the given size in points.
     Q_INVOKABLE static QString pdf(const QString& name, double w, double h);
 
