@@ -18,7 +18,7 @@ using Kind = GuideBlock::Kind;
 
 QString officialPdf(const char* name)
 {
-    return QFileInfo(QStringLiteral(__FILE__)).dir().filePath(QStringLiteral("../../resources/official/erg2024/") + QLatin1String(name));
+    return QStringLiteral(QOR_OFFICIAL_DIR "/erg2024/") + QLatin1String(name);
 }
 
 // The guide section is read once for all tests.

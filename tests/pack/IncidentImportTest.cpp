@@ -18,7 +18,7 @@ namespace {
 
 QStringList realReportFiles()
 {
-    QDir dir(QFileInfo(QStringLiteral(__FILE__)).dir().filePath(QStringLiteral("../../resources/src/incidents")));
+    QDir dir(QStringLiteral(QOR_SOURCE_DIR "/resources/src/incidents"));
     QStringList files;
     for (const QString& name : dir.entryList({ QStringLiteral("*.csv") }, QDir::Files, QDir::Name))
         files << dir.filePath(name);
