@@ -42,14 +42,15 @@ QJsonObject materialJson(QORModel& model, Material& m)
     o.insert(QStringLiteral("class"), model.classForMaterial(m));
     o.insert(QStringLiteral("classDescription"), optionalString(model.classDescriptionForMaterial(m)));
 
-    // Isolation distances, in database row order (JSON objects keep no order,
-    // so the keys are also listed).
+    // Isolation distances, the material's own conditions first and otherwise
+    // in database row order (JSON objects keep no order, so the keys are also listed).
     const IsolationDistances& iso = model.isolationDistancesForMaterial(m);
+    const QStringList isoKeys = model.isolationConditionsForMaterial(m);
     QJsonObject isoJson;
-    for (const QString& key : iso.keys())
+    for (const QString& key : isoKeys)
         isoJson.insert(key, stringMapJson(iso.value(key)));
     o.insert(QStringLiteral("isolationDistances"), isoJson);
-    o.insert(QStringLiteral("isolationConditions"), QJsonArray::fromStringList(iso.keys()));
+    o.insert(QStringLiteral("isolationConditions"), QJsonArray::fromStringList(isoKeys));
     // Large spills by container, as "name" and the fourteen figures, in table order.
     QJsonArray containers;
     const OrderedMap<QString> large = model.largeSpillIsoDistancesForMaterial(m);

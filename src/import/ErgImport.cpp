@@ -757,13 +757,44 @@ QString table3Csv(const ErgTables& tables)
     return out;
 }
 
+QStringList isoConditions(const QList<ErgTable1Row>& rows)
+{
+    // The app keeps one record per ID and condition; names of one ID whose
+    // figures differ would otherwise all show the last row's.
+    auto figures = [](const ErgTable1Row& r) { return r.small.values() + (r.large ? r.large->values() : QStringList()); };
+    QHash<QString, QStringList> first;
+    QSet<QString> mixed;
+    for (const ErgTable1Row& r : rows) {
+        const QString key = r.id + QLatin1Char('^') + r.condition;
+        const auto it = first.constFind(key);
+        if (it == first.cend())
+            first.insert(key, figures(r));
+        else if (*it != figures(r))
+            mixed.insert(key);
+    }
+    static const QRegularExpression zone(QStringLiteral("\\((Inhalation Hazard Zone [A-D])\\)$"), QRegularExpression::CaseInsensitiveOption);
+    QStringList out;
+    for (const ErgTable1Row& r : rows) {
+        if (!mixed.contains(r.id + QLatin1Char('^') + r.condition)) {
+            out << r.condition;
+            continue;
+        }
+        const auto m = zone.match(r.name);
+        const QString label = m.hasMatch() ? m.captured(1) : r.name;
+        out << (r.condition.isEmpty() ? label : label + QStringLiteral(" - ") + r.condition);
+    }
+    return out;
+}
+
 QString isoDistancesSql(const ErgTables& tables)
 {
     QString out = QStringLiteral("-- Table 1 of the guidebook, as imported.\n");
-    for (const ErgTable1Row& r : tables.table1) {
+    const QStringList conditions = isoConditions(tables.table1);
+    for (qsizetype i = 0; i < tables.table1.size(); ++i) {
+        const ErgTable1Row& r = tables.table1.at(i);
         const QStringList large = r.large ? r.large->values() : QStringList(6, QString());
         out += QStringLiteral("insert into iso_distances values (%1);\n")
-                   .arg(sqlValues(QStringList{ r.id, r.condition } + r.small.values() + large));
+                   .arg(sqlValues(QStringList{ r.id, conditions.at(i) } + r.small.values() + large));
     }
     return out;
 }

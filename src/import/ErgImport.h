@@ -85,6 +85,12 @@ QStringList materialsLines(const ErgTables& tables);
 QString table1Csv(const ErgTables& tables);
 QString table2Csv(const ErgTables& tables);
 QString table3Csv(const ErgTables& tables);
+// The iso_distances condition of each Table 1 row, in row order. It is the
+// row's spill condition, unless rows of one ID and spill condition print
+// different figures: then each row is told apart by the inhalation hazard
+// zone its name ends in ("Inhalation Hazard Zone A") or else by its name,
+// followed by " - " and the spill condition where there is one.
+QStringList isoConditions(const QList<ErgTable1Row>& rows);
 // SQL inserts for the pack's iso_distances and large_spill_distances tables.
 QString isoDistancesSql(const ErgTables& tables);
 QString largeSpillSql(const ErgTables& tables);

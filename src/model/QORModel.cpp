@@ -445,6 +445,34 @@ const IsolationDistances& QORModel::isolationDistancesForMaterial(Material& mate
     return map;
 }
 
+bool QORModel::isolationConditionNamesMaterial(const QString& condition, const QString& materialName)
+{
+    static const QString kSeparator = QStringLiteral(" - ");
+    auto names = [&](QStringView label) {
+        if (label.isEmpty())
+            return false;
+        if (materialName.compare(label, Qt::CaseInsensitive) == 0)
+            return true;
+        // A zone: the name ends in "(Inhalation Hazard Zone A)".
+        const qsizetype at = materialName.size() - label.size() - 1;
+        return at > 0 && materialName.at(at - 1) == u'(' && materialName.endsWith(u')')
+            && QStringView(materialName).mid(at, label.size()).compare(label, Qt::CaseInsensitive) == 0;
+    };
+    if (names(condition))
+        return true;
+    const qsizetype sep = condition.lastIndexOf(kSeparator);
+    return sep > 0 && names(QStringView(condition).left(sep));
+}
+
+QStringList QORModel::isolationConditionsForMaterial(Material& material)
+{
+    const QStringList& keys = isolationDistancesForMaterial(material).keys();
+    QStringList own, others;
+    for (const QString& key : keys)
+        (isolationConditionNamesMaterial(key, material.name) ? own : others) << key;
+    return own + others;
+}
+
 // ---------------------------------------------------------------- large spills by container
 
 namespace {

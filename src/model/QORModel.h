@@ -73,6 +73,16 @@ public:
 
     // --- isolation distances ---
     const IsolationDistances& isolationDistancesForMaterial(Material& material);
+    // Where one UN number's names carry different figures, each has its own
+    // condition: the zone its name ends in ("Inhalation Hazard Zone A") or
+    // the name itself, perhaps followed by " - " and the spill condition.
+    // True when the condition is this material's own (case aside, as
+    // material names are shown capitalized).
+    static bool isolationConditionNamesMaterial(const QString& condition, const QString& materialName);
+    // The keys of the material's distances, its own conditions first and
+    // otherwise in table order, so the figures for the name the responder
+    // chose come first.
+    QStringList isolationConditionsForMaterial(Material& material);
     // Large spills by transport container for the six gases of the
     // guidebook's Table 3: container name -> fourteen comma-separated figures
     // (isolate m, ft; day low, moderate, high wind and night low, moderate,

@@ -136,7 +136,8 @@ void IsolationTableDelegate::reloadData()
     m_sections.clear();
     if (m_material.ptr) {
         Material& material = *m_material.ptr;
-        const IsolationDistances& iso = QORModel::sharedInstance()->isolationDistancesForMaterial(material);
+        QORModel* model = QORModel::sharedInstance();
+        const IsolationDistances& iso = model->isolationDistancesForMaterial(material);
         const OrderedMap<QString> containers = largeSpillIsoDistancesForMaterial(material);
         const int units = savedUnits();
         const qsizetype n = containers.count();
@@ -151,7 +152,8 @@ void IsolationTableDelegate::reloadData()
             s.insert(QStringLiteral("height"), shortCell ? kShortRowHeight : kRowHeight);
             m_sections.append(s);
         };
-        const QStringList& keys = iso.keys();
+        // The material's own zone (or name) first: its figures on top.
+        const QStringList keys = model->isolationConditionsForMaterial(material);
         if (!keys.isEmpty())
             addCondition(keys.first(), true);
         for (const QString& name : containers.keys()) {

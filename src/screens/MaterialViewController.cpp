@@ -107,10 +107,14 @@ void SummaryTableDelegate::setMaterial(const MaterialPtr& material)
         if (key == QLatin1String("ISO")) {
             detailTables << QStringLiteral("iso_distances");
             QString title = text;
-            if (iso.count() == 1) {
-                const QString condition = iso.value(iso.keys().first()).value(QStringLiteral("Condition"));
+            // A material whose name has figures of its own (a zone of an n.o.s.
+            // entry) names them, not those of another name of its number.
+            const QString own = model->isolationConditionsForMaterial(m).value(0);
+            const bool named = QORModel::isolationConditionNamesMaterial(own, m.name);
+            if (iso.count() == 1 || named) {
+                const QString condition = iso.value(named ? own : iso.keys().first()).value(QStringLiteral("Condition"));
                 if (!condition.isEmpty() && condition != QLatin1String("default") && condition != L::tr("default"))
-                    title = QStringLiteral("%1\n (%2)").arg(text, condition);
+                    title = QStringLiteral("%1\n (%2)").arg(text, named ? capitalized(condition) : condition);
             }
             rows.add(QStringLiteral("iso"), { { QStringLiteral("title"), title },
                                               { QStringLiteral("subtitle"), IsolationTableDelegate::tihProducedText(m) } });

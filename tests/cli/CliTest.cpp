@@ -152,6 +152,36 @@ TEST(ErgCli, BundledUn1005ShowsTheGuidebooksFigures)
         << r.out.toStdString();
 }
 
+TEST(ErgCli, BundledUn1953ShowsEachZoneUnderItsOwnTitle)
+{
+    const QString pack = qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
+    const Result r = runCli({ QStringLiteral("--resources"), pack, QStringLiteral("material"), QStringLiteral("1953") });
+    ASSERT_EQ(r.code, 0) << r.err.toStdString();
+    // The material shown under each zone name: its own zone first, with that zone's printed figures.
+    const QString zoneA = QStringLiteral("(Inhalation Hazard Zone A)  UN1953\n");
+    const qsizetype a = r.out.indexOf(zoneA);
+    ASSERT_GE(a, 0) << r.out.toStdString();
+    const QString block = r.out.mid(a, r.out.indexOf(QStringLiteral("UN1953\n"), a + zoneA.size()) - a);
+    const qsizetype first = block.indexOf(QStringLiteral("  Isolation ("));
+    EXPECT_EQ(block.mid(first, block.indexOf(QLatin1Char('\n'), first) - first), QStringLiteral("  Isolation (Inhalation Hazard Zone A)"));
+    EXPECT_TRUE(block.contains(QStringLiteral("  Isolation (Inhalation Hazard Zone A)\n"
+                                              "    Small spill: isolate 150 m / 500 ft; protect day 1.0 km / 0.6 mi; night 3.9 km / 2.4 mi\n"
+                                              "    Large spill: isolate 1000 m / 3000 ft; protect day 6.2 km / 3.9 mi; night 10.5 km / 6.5 mi\n")))
+        << block.toStdString();
+    EXPECT_TRUE(block.contains(QStringLiteral("  Isolation (Inhalation Hazard Zone D)\n"
+                                              "    Small spill: isolate 30 m / 100 ft; protect day 0.1 km / 0.1 mi; night 0.3 km / 0.2 mi\n"
+                                              "    Large spill: isolate 150 m / 500 ft; protect day 1.0 km / 0.6 mi; night 2.7 km / 1.7 mi\n")))
+        << block.toStdString();
+    EXPECT_FALSE(block.contains(QStringLiteral("Isolation (default)")));
+
+    const QJsonArray zoneD = runCli({ QStringLiteral("--resources"), pack, QStringLiteral("--json"), QStringLiteral("material"),
+                                      QStringLiteral("Compressed gas, toxic, flammable, n.o.s. (Inhalation Hazard Zone D)") })
+                                 .json()
+                                 .array();
+    ASSERT_EQ(zoneD.size(), 1);
+    EXPECT_EQ(zoneD[0].toObject().value("isolationConditions").toArray().first().toString(), "Inhalation Hazard Zone D");
+}
+
 TEST(ErgCli, ImportWritesEveryTableOrNothing)
 {
     QTemporaryDir dir;

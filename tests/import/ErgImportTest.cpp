@@ -198,6 +198,72 @@ TEST_F(ErgImportTest, Tables2And3ByValue)
     EXPECT_EQ(tables().table3.first().values.at(8), QStringLiteral("4.1"));
 }
 
+TEST_F(ErgImportTest, IsoConditionsKeepEveryNamesOwnFigures)
+{
+    const QList<ErgTable1Row>& rows = tables().table1;
+    const QStringList conditions = isoConditions(rows);
+    ASSERT_EQ(conditions.size(), rows.size());
+    // The app keeps one record per ID and condition: rows that meet in one
+    // record must print the same figures, or a name would show another's.
+    QHash<QString, QStringList> figures;
+    QSet<QString> told;
+    auto figuresOf = [](const ErgTable1Row& r) { return r.small.values() + (r.large ? r.large->values() : QStringList()); };
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        const QString key = rows[i].id + QLatin1Char('^') + conditions[i];
+        if (figures.contains(key))
+            EXPECT_EQ(figures.value(key), figuresOf(rows[i])) << key.toStdString();
+        figures.insert(key, figuresOf(rows[i]));
+        if (conditions[i] != rows[i].condition)
+            told.insert(rows[i].id);
+    }
+    const QStringList toldIds = [&] { QStringList l(told.begin(), told.end()); l.sort(); return l; }();
+    EXPECT_EQ(toldIds, QStringList({ "1744", "1953", "1955", "2845", "2927", "3160", "3162", "3303", "3304", "3305", "3306",
+                                     "3307", "3308", "3309", "3310", "3355" }));
+
+    auto record = [&](const QString& id, const QString& condition) -> const ErgTable1Row* {
+        for (qsizetype i = 0; i < rows.size(); ++i)
+            if (rows[i].id == id && conditions[i] == condition)
+                return &rows[i];
+        return nullptr;
+    };
+    // UN1953 by value against the printed page: zone A is five times zone D's isolation.
+    const ErgTable1Row* zoneA = record("1953", "Inhalation Hazard Zone A");
+    ASSERT_TRUE(zoneA);
+    expectDistances(zoneA->small, { "150", "500", "1.0", "0.6", "3.9", "2.4" });
+    ASSERT_TRUE(zoneA->large);
+    expectDistances(*zoneA->large, { "1000", "3000", "6.2", "3.9", "10.5", "6.5" });
+    const ErgTable1Row* zoneD = record("1953", "Inhalation Hazard Zone D");
+    ASSERT_TRUE(zoneD);
+    expectDistances(zoneD->small, { "30", "100", "0.1", "0.1", "0.3", "0.2" });
+    expectDistances(*zoneD->large, { "150", "500", "1.0", "0.6", "2.7", "1.7" });
+    // A name without a zone is its own condition.
+    const ErgTable1Row* methyl = record("2845", "Methyl phosphonous dichloride");
+    ASSERT_TRUE(methyl);
+    expectDistances(*methyl->large, { "200", "600", "2.6", "1.6", "4.2", "2.6" });
+    EXPECT_TRUE(record("1744", "Bromine"));
+    EXPECT_TRUE(record("1744", "Inhalation Hazard Zone B"));
+
+    // Names sharing their figures keep one record, spill conditions as they were.
+    EXPECT_TRUE(record("1005", QString())) << "two names of ammonia, one record";
+    EXPECT_FALSE(record("1005", "Anhydrous ammonia"));
+    EXPECT_TRUE(record("1746", ErgImport::kWater));
+    EXPECT_TRUE(isoDistancesSql(tables()).contains(QStringLiteral("('1953','Inhalation Hazard Zone A','150','500',")));
+}
+
+TEST(ErgIsoConditions, ASpillConditionFollowsTheNameThatTellsRowsApart)
+{
+    const ErgDistances a{ "30", "100", "0.1", "0.1", "0.2", "0.1" }, b{ "60", "200", "0.3", "0.2", "0.9", "0.6" };
+    const QList<ErgTable1Row> rows = {
+        { "9999", "155", "Gas X", ErgImport::kLand, a, std::nullopt },
+        { "9999", "155", "Gas X", ErgImport::kWater, a, std::nullopt },
+        { "9999", "155", "Gas Y", ErgImport::kWater, b, std::nullopt },
+        { "9998", "125", "Gas Z (Inhalation Hazard Zone A)", QString(), a, b },
+        { "9998", "125", "Gas Z (Inhalation Hazard Zone B)", QString(), a, a },
+    };
+    EXPECT_EQ(isoConditions(rows), QStringList({ ErgImport::kLand, "Gas X - When Spilled in Water", "Gas Y - When Spilled in Water",
+                                                 "Inhalation Hazard Zone A", "Inhalation Hazard Zone B" }));
+}
+
 TEST_F(ErgImportTest, MaterialsLinesCarryTheMarksOfTables1And2)
 {
     const QStringList lines = materialsLines(tables());

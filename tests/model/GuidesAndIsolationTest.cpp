@@ -120,3 +120,46 @@ TEST(Isolation, ContainerTableFromThePackOrBuiltIn)
     EXPECT_EQ(QORModel::builtInLargeSpillIsoDistances("1005").value("Multiple Small Cylinders").split(',').at(5), "0.1");
     EXPECT_TRUE(QORModel::builtInLargeSpillIsoDistances("1090").isEmpty());
 }
+
+TEST(Isolation, AMaterialsOwnZoneOrNameComesFirst)
+{
+    FixturePack pack;
+    pack.setMaterials({ "Compressed gas, toxic, n.o.s.^2.3^123^1955^X^^", "Compressed gas, toxic, n.o.s. (Inhalation Hazard Zone B)^2.3^123^1955^X^^",
+                        "Methyl phosphonous dichloride^6.1^135^2845^X^^", "Thionyl chloride^8^137^1836^X^W^" });
+    pack.sql("npg.db",
+             "insert into iso_distances values ('1955','Compressed gas, toxic, n.o.s.','150','500','1.0','0.6','3.9','2.4','1000','3000','6.2','3.9','10.5','6.5');"
+             "insert into iso_distances values ('1955','Inhalation Hazard Zone A','150','500','1.0','0.6','3.9','2.4','1000','3000','6.2','3.9','10.5','6.5');"
+             "insert into iso_distances values ('1955','Inhalation Hazard Zone B','30','100','0.2','0.2','1.1','0.7','300','1000','1.4','0.9','3.7','2.3');"
+             "insert into iso_distances values ('2845','Ethyl phosphonous dichloride, anhydrous','30','100','0.3','0.2','0.7','0.5','100','300','1.4','0.9','2.3','1.4');"
+             "insert into iso_distances values ('2845','Methyl phosphonous dichloride','30','100','0.4','0.3','1.2','0.7','200','600','2.6','1.6','4.2','2.6');"
+             "insert into iso_distances values ('1836','When Spilled on Land','30','100','0.1','0.1','0.2','0.1','100','300','0.6','0.4','1.9','1.2');"
+             "insert into iso_distances values ('1836','When Spilled in Water','30','100','0.1','0.1','0.3','0.2','','','','','','');");
+    ModelFixture model;
+    QORModel* m = QORModel::sharedInstance();
+    // Names are shown capitalized; the match ignores case.
+    Material& zoneB = *m->materials.at(1);
+    ASSERT_EQ(zoneB.name, "Compressed Gas, Toxic, N.O.S. (Inhalation Hazard Zone B)");
+    EXPECT_EQ(m->isolationConditionsForMaterial(zoneB),
+              QStringList({ "Inhalation Hazard Zone B", "Compressed gas, toxic, n.o.s.", "Inhalation Hazard Zone A" }));
+    EXPECT_EQ(m->isolationConditionsForMaterial(*m->materials.at(0)).first(), "Compressed gas, toxic, n.o.s.");
+    EXPECT_EQ(m->isolationConditionsForMaterial(*m->materials.at(2)),
+              QStringList({ "Methyl phosphonous dichloride", "Ethyl phosphonous dichloride, anhydrous" }));
+    EXPECT_EQ(m->isolationConditionsForMaterial(*m->materials.at(3)), QStringList({ "When Spilled on Land", "When Spilled in Water" }))
+        << "spill conditions keep table order";
+}
+
+TEST(Isolation, WhichConditionsNameAMaterial)
+{
+    const QString zoneA = QStringLiteral("Liquefied Gas, Toxic, N.O.S. (Inhalation Hazard Zone A)");
+    EXPECT_TRUE(QORModel::isolationConditionNamesMaterial("Inhalation Hazard Zone A", zoneA));
+    EXPECT_TRUE(QORModel::isolationConditionNamesMaterial("Inhalation Hazard Zone A - When Spilled in Water", zoneA));
+    EXPECT_FALSE(QORModel::isolationConditionNamesMaterial("Inhalation Hazard Zone B", zoneA));
+    EXPECT_FALSE(QORModel::isolationConditionNamesMaterial("Zone A", zoneA)) << "a whole parenthesis, not its end";
+    EXPECT_FALSE(QORModel::isolationConditionNamesMaterial("Liquefied gas, toxic, n.o.s.", zoneA));
+    EXPECT_TRUE(QORModel::isolationConditionNamesMaterial("Bromine", "Bromine"));
+    EXPECT_FALSE(QORModel::isolationConditionNamesMaterial("Bromine", "Bromine, Solution"));
+    EXPECT_FALSE(QORModel::isolationConditionNamesMaterial("Bromine, solution", "Bromine"));
+    EXPECT_FALSE(QORModel::isolationConditionNamesMaterial("When Spilled in Water", "Bromine"));
+    EXPECT_FALSE(QORModel::isolationConditionNamesMaterial("default", "Ammonia"));
+    EXPECT_FALSE(QORModel::isolationConditionNamesMaterial(QString(), "Ammonia"));
+}

@@ -3,6 +3,7 @@
 
 #include "AppLinks.h"
 #include "IsolationTableDelegate.h"
+#include "MaterialViewController.h"
 #include "model/QORModel.h"
 
 #include <QSettings>
@@ -143,4 +144,45 @@ TEST_F(IsolationTest, ConditionsKeepTheRowOrderOfTheTable)
     ASSERT_EQ(d.sections().size(), 2);
     EXPECT_EQ(d.titleForSection(0), "When Spilled On Land");
     EXPECT_EQ(d.titleForSection(1), "When Spilled In Water (TIH Gas Produced: HCl)");
+}
+
+// Zones of one UN number: each section titled by its zone, the material's own
+// on top, and the summary row naming the zone whose figures the table shows.
+TEST(IsolationZones, TheMaterialsOwnZoneLeadsTableAndSummary)
+{
+    FixturePack pack;
+    pack.setMaterials({ "Compressed gas, toxic, flammable, n.o.s.^2.3^119^1953^X^^",
+                        "Compressed gas, toxic, flammable, n.o.s. (Inhalation Hazard Zone A)^2.3^119^1953^X^^",
+                        "Compressed gas, toxic, flammable, n.o.s. (Inhalation Hazard Zone D)^2.3^119^1953^X^^" });
+    pack.sql("npg.db",
+             "insert into iso_distances values ('1953','Compressed gas, toxic, flammable, n.o.s.','150','500','1.0','0.6','3.9','2.4','1000','3000','6.2','3.9','10.5','6.5');"
+             "insert into iso_distances values ('1953','Inhalation Hazard Zone A','150','500','1.0','0.6','3.9','2.4','1000','3000','6.2','3.9','10.5','6.5');"
+             "insert into iso_distances values ('1953','Inhalation Hazard Zone D','30','100','0.1','0.1','0.3','0.2','150','500','1.0','0.6','2.7','1.7');");
+    ModelFixture fixture;
+    QSettings().setValue(IsolationTableDelegate::kSavedUnitsKey, int(IsolationTableDelegate::Metric));
+    const MaterialList& materials = QORModel::sharedInstance()->materials;
+
+    IsolationTableDelegate d;
+    d.setMaterial(MaterialRef(materials.at(2)));
+    ASSERT_EQ(d.sections().size(), 3);
+    EXPECT_EQ(d.titleForSection(0), "Inhalation Hazard Zone D");
+    const QVariantMap own = d.sections().at(0).toMap();
+    EXPECT_EQ(own.value("smallIsolate"), "30 m");
+    EXPECT_EQ(own.value("largeIsolate"), "150 m");
+    EXPECT_FALSE(own.value("hideLargeSpill").toBool());
+    EXPECT_EQ(d.titleForSection(1), "Compressed Gas, Toxic, Flammable, N.O.S.") << "titled like the material list's names";
+    EXPECT_EQ(d.titleForSection(2), "Inhalation Hazard Zone A");
+    EXPECT_EQ(d.sections().at(2).toMap().value("largeIsolate"), "1000 m");
+
+    d.setMaterial(MaterialRef(materials.at(0)));
+    EXPECT_EQ(d.titleForSection(0), "Compressed Gas, Toxic, Flammable, N.O.S.");
+
+    SummaryTableDelegate summary;
+    summary.setMaterial(materials.at(2));
+    QString title;
+    for (const QVariant& v : summary.rows())
+        if (v.toMap().value("kind") == "iso")
+            title = v.toMap().value("title").toString();
+    EXPECT_EQ(title, "Isolation Distances\n (Inhalation Hazard Zone D)");
+    QSettings().remove(IsolationTableDelegate::kSavedUnitsKey);
 }
