@@ -14,12 +14,18 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QPalette>
+#include <QProcess>
+#include <QQmlProperty>
+#include <QTemporaryDir>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QTimer>
 #include <QtWebEngineQuick/qtwebenginequickglobal.h>
 #include <QtQml/qqmlextensionplugin.h>
 #include <cstdio>
+#include <functional>
+#include <memory>
+#include <vector>
 
 Q_IMPORT_QML_PLUGIN(QORPlugin)
 
@@ -45,23 +51,28 @@ bool forwardToRunningInstance(const QStringList& links)
     return true;
 }
 
-// Links arrive once the material list has loaded, so "chemical" can find its material.
-void openWhenLoaded(const QStringList& links)
+// Runs `work` once the material list has loaded (at once when it has).
+void whenModelLoaded(const std::function<void()>& work)
 {
     QORModel* model = QORModel::sharedInstance();
-    auto open = [links] {
-        for (const QString& link : links)
-            QORAppDelegate::sharedInstance()->openUrl(link);
-    };
     if (!model->isLoading()) {
-        open();
+        work();
         return;
     }
     auto* conn = new QMetaObject::Connection;
-    *conn = QObject::connect(model, &QORModel::modelLoadingStateChanged, model, [open, conn] {
+    *conn = QObject::connect(model, &QORModel::modelLoadingStateChanged, model, [work, conn] {
         QObject::disconnect(*conn);
         delete conn;
-        open();
+        work();
+    });
+}
+
+// Links arrive once the material list has loaded, so "chemical" can find its material.
+void openWhenLoaded(const QStringList& links)
+{
+    whenModelLoaded([links] {
+        for (const QString& link : links)
+            QORAppDelegate::sharedInstance()->openUrl(link);
     });
 }
 
@@ -74,7 +85,55 @@ void recordQmlErrors(QtMsgType type, const QMessageLogContext& context, const QS
     fprintf(stderr, "%s\n", qPrintable(message));
 }
 
-int runSelfTest(QQmlApplicationEngine& engine, QGuiApplication& app)
+// A crash while the app tears down can lose what it writes last, so the
+// self-test quits from every screen in both layouts and both appearances, each
+// in a process of its own, and accepts nothing but a clean exit status 0.
+bool quitsFromEveryScreen(const QStringList& screens, const QStringList& passOn)
+{
+    QTemporaryDir dataDir;
+    struct Run {
+        QString what;
+        std::unique_ptr<QProcess> process;
+    };
+    std::vector<Run> runs;
+    for (const char* form : { "phone", "tablet" })
+        for (const char* look : { "light", "dark" })
+            for (const QString& screen : screens) {
+                auto process = std::make_unique<QProcess>();
+                process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+                process->setProgram(QCoreApplication::applicationFilePath());
+                // Each child its own data folder: they run side by side.
+                // Windows of the size each layout is used at: the tear-down differs with the size.
+                const QString size = qstrcmp(form, "tablet") == 0 ? QStringLiteral("1280x800") : QStringLiteral("420x780");
+                process->setArguments(passOn + QStringList{ "--data-dir", dataDir.filePath(QString::number(runs.size())), "--form-factor",
+                                                            QString::fromLatin1(form), "--size", size, "--appearance",
+                                                            QString::fromLatin1(look), "--quit-from", screen });
+                runs.push_back({ QStringLiteral("%1 (%2, %3)").arg(screen, QLatin1String(form), QLatin1String(look)), std::move(process) });
+            }
+    // Mostly waiting for the screen to settle, so a few run at once.
+    constexpr size_t kAtOnce = 4;
+    bool ok = true;
+    for (size_t first = 0; first < runs.size(); first += kAtOnce) {
+        const size_t end = std::min(runs.size(), first + kAtOnce);
+        for (size_t i = first; i < end; ++i)
+            runs[i].process->start();
+        for (size_t i = first; i < end; ++i) {
+            QProcess& child = *runs[i].process;
+            const bool finished = child.waitForFinished(60000);
+            if (finished && child.exitStatus() == QProcess::NormalExit && child.exitCode() == 0)
+                continue;
+            fprintf(stderr, "self-test: quitting from %s %s\n", qPrintable(runs[i].what),
+                    !finished ? "did not end" : child.exitStatus() != QProcess::NormalExit ? "crashed"
+                                                                                          : qPrintable(QStringLiteral("exited with %1").arg(child.exitCode())));
+            child.kill();
+            child.waitForFinished();
+            ok = false;
+        }
+    }
+    return ok;
+}
+
+int runSelfTest(QQmlApplicationEngine& engine, QGuiApplication& app, const QStringList& passOn)
 {
     qInstallMessageHandler(recordQmlErrors);
     QORModel::sharedInstance()->loadData();
@@ -83,6 +142,14 @@ int runSelfTest(QQmlApplicationEngine& engine, QGuiApplication& app)
         return 1;
     QObject* root = engine.rootObjects().first();
     bool ok = true;
+    // The app opens on the Reference screen.
+    QVariant stack;
+    QMetaObject::invokeMethod(root, "currentStack", Q_RETURN_ARG(QVariant, stack));
+    const QObject* shown = stack.value<QObject*>() ? stack.value<QObject*>()->property("currentItem").value<QObject*>() : nullptr;
+    if (!shown || shown->objectName() != QLatin1String("ReferencePage")) {
+        fprintf(stderr, "self-test: the app did not open on the Reference screen\n");
+        ok = false;
+    }
     for (const char* form : { "phone", "tablet" }) {
         QORAppDelegate::sharedInstance()->setFormFactorOverride(QString::fromLatin1(form));
         app.processEvents();
@@ -97,7 +164,11 @@ int runSelfTest(QQmlApplicationEngine& engine, QGuiApplication& app)
     for (const QString& e : std::as_const(qmlErrors))
         if (!e.contains(QLatin1String("image://")))  // missing artwork is not a screen failure
             ok = false;
-    fprintf(stderr, "self-test: %s\n", ok ? "every screen loaded in both layouts" : "FAILED");
+    const QStringList screens = QQmlProperty::read(root, QStringLiteral("tabScreens")).toStringList()
+        + QQmlProperty::read(root, QStringLiteral("detailScreens")).toStringList()
+        + QQmlProperty::read(root, QStringLiteral("pageScreens")).toMap().keys() + QStringList{ "guide", "placards" };
+    ok = quitsFromEveryScreen(screens, passOn) && ok;
+    fprintf(stderr, "self-test: %s\n", ok ? "every screen loaded, and quit cleanly, in both layouts and appearances" : "FAILED");
     return ok ? 0 : 1;
 }
 
@@ -155,10 +226,12 @@ int main(int argc, char** argv)
     QCommandLineOption detailTab(QStringLiteral("detail-tab"), QStringLiteral("Show tab N of the material opened by a link."), QStringLiteral("N"));
     QCommandLineOption openScreen(QStringLiteral("open-screen"), QStringLiteral("Open isolation or guide for the material opened by a link."), QStringLiteral("NAME"));
     QCommandLineOption appearance(QStringLiteral("appearance"), QStringLiteral("Use the light or dark appearance."), QStringLiteral("light|dark"));
+    QCommandLineOption quitFrom(QStringLiteral("quit-from"), QStringLiteral("Open screen NAME, then quit (for the self-test)."), QStringLiteral("NAME"));
+    quitFrom.setFlags(QCommandLineOption::HiddenFromHelp);
     firstFrame.setFlags(QCommandLineOption::HiddenFromHelp);
     emptyWindow.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOptions({ version, resources, dataDir, openTab, openPlacards, lang, formFactor, selfTest, screenshot, screenshotDelay,
-                        size, firstFrame, emptyWindow, detailTab, openScreen, appearance });
+                        size, firstFrame, emptyWindow, detailTab, openScreen, appearance, quitFrom });
     parser.addPositionalArgument(QStringLiteral("links"), QStringLiteral("qor://search?q=TEXT or qor://chemical?un=NUMBER"), QStringLiteral("[links...]"));
     parser.process(app);
 
@@ -188,7 +261,7 @@ int main(int argc, char** argv)
     QQmlApplicationEngine engine;
     engine.addImageProvider(QString::fromLatin1(PdfImageProvider::kProviderId), new PdfImageProvider);
     if (parser.isSet(selfTest))
-        return runSelfTest(engine, app);
+        return runSelfTest(engine, app, parser.isSet(resources) ? QStringList{ "--resources", parser.value(resources) } : QStringList());
     if (parser.isSet(emptyWindow)) {
         QQuickWindow empty;
         empty.resize(420, 780);
@@ -198,7 +271,7 @@ int main(int argc, char** argv)
     }
 
     // One running instance: a second launch hands its links over and exits.
-    const bool oneShot = parser.isSet(screenshot);
+    const bool oneShot = parser.isSet(screenshot) || parser.isSet(quitFrom);
     if (!oneShot && forwardToRunningInstance(links))
         return 0;
     QLocalServer server;
@@ -272,7 +345,20 @@ int main(int argc, char** argv)
     if (window && parser.isSet(firstFrame))
         QObject::connect(window, &QQuickWindow::frameSwapped, &app, &QCoreApplication::quit, Qt::QueuedConnection);
 
-    if (oneShot) {
+    if (window && parser.isSet(quitFrom)) {
+        whenModelLoaded([window, screen = parser.value(quitFrom)] {
+            QVariant opened;
+            QMetaObject::invokeMethod(window, "openScreen", Q_RETURN_ARG(QVariant, opened), Q_ARG(QVariant, screen));
+            if (!opened.toBool()) {
+                fprintf(stderr, "qor: could not open the screen %s\n", qPrintable(screen));
+                QCoreApplication::exit(3);
+                return;
+            }
+            // Long enough for the screen's pages and icons to be loading.
+            QTimer::singleShot(700, window, &QCoreApplication::quit);
+        });
+    }
+    if (parser.isSet(screenshot)) {
         const QString file = parser.value(screenshot);
         QTimer::singleShot(parser.value(screenshotDelay).toInt(), &app, [window, file] {
             const bool saved = window && window->grabWindow().save(file);

@@ -534,7 +534,7 @@ private:
     void checkProvisionAnchors(const ReadOnlyDb& npg)
     {
         Capped report{ this, QStringLiteral("npg.db") };
-        const auto rows = npg.rows(QStringLiteral("select rowid, un_id, special_provisions from hmt"));
+        const auto rows = npg.rows(QStringLiteral("select rowid, %1, special_provisions from hmt").arg(packUnIdColumnText(QStringLiteral("un_id"))));
         for (const QStringList& r : rows.value_or(QList<QStringList>())) {
             for (const QString& code : r.at(2).split(QStringLiteral(", "), Qt::SkipEmptyParts)) {
                 const QString page = specialProvisionPage(code);
@@ -557,7 +557,7 @@ private:
         // A part 173 section, maybe with a paragraph: 202, 302c, 63(a), 247(h)(4).
         static const QRegularExpression sectionNumber(QStringLiteral("^\\d+[a-z]?(?:\\([a-z0-9]+\\))*$"));
         Capped report{ this, QStringLiteral("npg.db") };
-        const auto rows = npg.rows(QStringLiteral("select rowid, un_id, exceptions, non_bulk, bulk from hmt"));
+        const auto rows = npg.rows(QStringLiteral("select rowid, %1, exceptions, non_bulk, bulk from hmt").arg(packUnIdColumnText(QStringLiteral("un_id"))));
         for (const QStringList& r : rows.value_or(QList<QStringList>())) {
             for (int column = 2; column <= 4; ++column) {
                 const QString section = QString(r.at(column)).remove(QLatin1Char(' '));

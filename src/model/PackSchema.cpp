@@ -1,12 +1,36 @@
 #include "PackSchema.h"
 
+#include <QSet>
+
 namespace qor {
+
+namespace {
+
+// Lookups put the UN id into their SQL unquoted, so an id such as 0004 arrives
+// as the integer 4. Under numeric affinity SQLite stores '0004' as 4 as well,
+// and both the bare and the quoted form match; ids such as "NA1993" stay text.
+// Readers that show such a column pad it again (packUnIdColumnText).
+bool isUnIdColumn(const QString& table, const QString& column)
+{
+    static const QSet<QString> columns = { "unid_npgid.un_number", "cameo.un_id",     "wiser_text.un_id", "iso_distances.un_id",
+                                           "hmt.un_id",            "dot_placards.un_number", "dot_classes.un_number" };
+    return columns.contains(table + QLatin1Char('.') + column);
+}
+
+} // namespace
+
+QString packUnIdColumnText(const QString& column)
+{
+    // Built by concatenation: arg() would take the "%04" of the format for a placeholder.
+    return QStringLiteral("(case typeof(") + column + QStringLiteral(") when 'integer' then printf('%04d', ") + column
+        + QStringLiteral(") else ") + column + QStringLiteral(" end)");
+}
 
 QString TableSchema::createSql() const
 {
     QStringList cols;
     for (const QString& c : columns)
-        cols << c + QStringLiteral(" text");
+        cols << c + (isUnIdColumn(name, c) ? QStringLiteral(" numeric") : QStringLiteral(" text"));
     return QStringLiteral("create table %1 (%2)").arg(name, cols.join(QStringLiteral(", ")));
 }
 

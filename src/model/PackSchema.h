@@ -27,6 +27,9 @@ const DatabaseSchema* packTableDatabase(const QString& table);
 // them for their provenance: the materials file, guides, information pages,
 // special-provision pages, placard artwork and descriptions.
 const QStringList& packTextContents();
+// SQL that reads a UN id column as the id's text ("0004", "NA1993"): those
+// columns have numeric affinity, which stores 0004 as the integer 4.
+QString packUnIdColumnText(const QString& column);
 
 // Resources the app names directly, so every pack must carry them.
 const QStringList& packPlacardKeys();      // each has "<key>.pdf"; "blank" shows placard 9

@@ -291,7 +291,7 @@ std::optional<QString> QORModel::descriptionForMaterial(Material& material)
 
 QString QORModel::classForMaterial(const Material& material)
 {
-    Statement st(m_npgDb, QStringLiteral("select class_id from dot_classes where un_number = %1").arg(material.unId));
+    Statement st(m_npgDb, QStringLiteral("select class_id from dot_classes where un_number = %1").arg(sqlBareUnId(material.unId)));
     if (!st.step())
         return QString();
     return st.text(0);
@@ -352,7 +352,7 @@ const IsolationDistances& QORModel::isolationDistancesForMaterial(Material& mate
         "Large Spill Protect distance Day Metric", "Large Spill Protect distance Day Imp",
         "Large Spill Protect distance Night Metric", "Large Spill Protect distance Night Imp",
     };
-    Statement st(m_npgDb, QStringLiteral("select * from iso_distances where un_id = %1 ").arg(material.unId));
+    Statement st(m_npgDb, QStringLiteral("select * from iso_distances where un_id = %1 ").arg(sqlBareUnId(material.unId)));
     while (st.step()) {
         (void)st.text(0);
         QString condition = st.text(1);

@@ -1,5 +1,7 @@
 #include "Sqlite.h"
 
+#include <algorithm>
+
 #include <sqlite3.h>
 #include <QDebug>
 #include <QFile>
@@ -169,6 +171,12 @@ QString sqlQuoted(const QString& value)
 {
     QString v = value;
     return v.replace(QLatin1Char('\''), QLatin1String("''"));
+}
+
+QString sqlBareUnId(const QString& unId)
+{
+    const bool digits = !unId.isEmpty() && std::all_of(unId.cbegin(), unId.cend(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return digits ? unId : QStringLiteral("NULL");
 }
 
 } // namespace qor

@@ -60,4 +60,10 @@ private:
 // Doubles single quotes so a value can sit inside '...' in SQL text.
 QString sqlQuoted(const QString& value);
 
+// A UN id as the bare SQL term the lookups compare with: the id itself when it
+// is all digits, otherwise NULL, which matches no row. An id from the
+// materials file is never trusted to be a number; unquoted, "1090 or 1=1"
+// would reach every row, and a word could name a column.
+QString sqlBareUnId(const QString& unId);
+
 } // namespace qor

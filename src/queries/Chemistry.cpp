@@ -12,7 +12,7 @@ namespace {
 
 QString npgSql(const QString& columns, const Material& material)
 {
-    return QStringLiteral("select %1 from npg_guides, unid_npgid where un_number = %2 and id = npgid").arg(columns, material.unId);
+    return QStringLiteral("select %1 from npg_guides, unid_npgid where un_number = %2 and id = npgid").arg(columns, sqlBareUnId(material.unId));
 }
 
 // The pocket guide's response cells, for the protection tab: whole texts,
@@ -114,7 +114,7 @@ StringMap QORModel::getCameoAttributesForMaterial(Material& material)
         // CAMEO keeps its names in upper case.
         Statement st(m_npgDb, QStringLiteral("select cameo_id, name, cas_no, un_id, description, formula, health_haz from cameo "
                                              "where un_id = %1 and name = '%2'")
-                                  .arg(material.unId, sqlQuoted(material.name.toUpper())));
+                                  .arg(sqlBareUnId(material.unId), sqlQuoted(material.name.toUpper())));
         if (st.step()) {
             map.insert(QStringLiteral("CameoName"), capitalized(st.text(1)));
             material.casNo = st.text(2);
@@ -134,7 +134,7 @@ StringMap QORModel::getWiserAttributesForMaterial(Material& material)
 {
     return cachedLookup(material.wiserAttributes, [&] {
         StringMap map;
-        Statement st(m_npgDb, QStringLiteral("select type, description  from wiser_text where un_id = %1").arg(material.unId));
+        Statement st(m_npgDb, QStringLiteral("select type, description  from wiser_text where un_id = %1").arg(sqlBareUnId(material.unId)));
         while (st.step()) {
             QString text = paragraphsToLines(st.text(1));
             text.replace(QLatin1String("; "), QLatin1String("\n\n"));

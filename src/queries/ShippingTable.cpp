@@ -67,7 +67,7 @@ QString QORModel::placardNameForMaterial(Material& material)
     if (cached != material.qorAttributes.cend())
         return cached->toString();
     QString name = QStringLiteral("blank");
-    Statement st(m_npgDb, QStringLiteral("select name from dot_placards where un_number = %1").arg(material.unId));
+    Statement st(m_npgDb, QStringLiteral("select name from dot_placards where un_number = %1").arg(sqlBareUnId(material.unId)));
     if (st.step())
         name = st.text(0);
     material.qorAttributes.insert(QStringLiteral("PlacardName"), name);
@@ -83,7 +83,7 @@ QList<StringMap> QORModel::getHmtEntriesForMaterial(Material& material)
         const QString columns = QStringLiteral(" name, packing_group, label_codes, special_provisions, non_bulk, bulk, "
                                                "pass_air_rail, cargo_air, vessel_loc, symbols ");
         Statement st(m_npgDb, QStringLiteral("select distinct %1 from hmt where un_id = %2 group by %1 order by name, packing_group")
-                                  .arg(columns, material.unId));
+                                  .arg(columns, sqlBareUnId(material.unId)));
         QList<StringMap> entries;
         while (st.step()) {
             StringMap entry;
@@ -119,7 +119,7 @@ StringMap QORModel::getHmtAttributesForMaterial(Material& material)
         Statement st(m_npgDb, QStringLiteral("select symbols, class, packing_group, label_codes, special_provisions, exceptions, "
                                              "non_bulk, bulk, pass_air_rail, cargo_air, vessel_loc, other, future  from hmt "
                                              "where un_id = %1 and class = %2")
-                                  .arg(material.unId, placard));
+                                  .arg(sqlBareUnId(material.unId), placard));
         StringMap attributes;
         if (st.step()) {
             attributes.insert(QStringLiteral("symbols"), st.text(0));

@@ -32,6 +32,8 @@ void QORAppDelegate::setCurrentTab(int tab)
     if (tab == m_currentTab)
         return;
     m_currentTab = tab;
+    // Full screen belongs to the guide being read; another tab shows its bars.
+    setFullscreen(false);
     emit currentTabChanged();
 }
 
@@ -99,7 +101,14 @@ void QORAppDelegate::showDetailForMaterial(const MaterialRef& material)
 
 void QORAppDelegate::toggleFullscreen()
 {
-    m_fullscreen = !m_fullscreen;
+    setFullscreen(!m_fullscreen);
+}
+
+void QORAppDelegate::setFullscreen(bool fullscreen)
+{
+    if (fullscreen == m_fullscreen)
+        return;
+    m_fullscreen = fullscreen;
     emit fullscreenChanged();
 }
 

@@ -38,7 +38,7 @@ public:
     int searchTab() const { return m_tablet ? 4 : 5; }
 
     // "phone" or "tablet" fixes the layout; empty lets the window size decide.
-    void setFormFactorOverride(const QString& formFactor);
+    Q_INVOKABLE void setFormFactorOverride(const QString& formFactor);
     Q_INVOKABLE void updateForWindowSize(int width, int height);
 
     Q_INVOKABLE void showGuide(const QString& guideId);
@@ -47,6 +47,7 @@ public:
     Q_INVOKABLE void showFilteredListForCategory(const QString& abbrev);
     Q_INVOKABLE void showDetailForMaterial(const qor::MaterialRef& material);
     Q_INVOKABLE void toggleFullscreen();
+    Q_INVOKABLE void setFullscreen(bool fullscreen);
     // A qor:// link from the command line or a second launch; always handled.
     Q_INVOKABLE bool openUrl(const QString& url);
     Q_INVOKABLE void saveData();

@@ -3,6 +3,7 @@
 #include "model/Device.h"
 #include "model/QORModel.h"
 #include "model/Resources.h"
+#include "history/DialogService.h"
 #include "history/UserPaths.h"
 #include "pages/GuideMail.h"
 #include "pages/GuideViewFactory.h"
@@ -249,9 +250,17 @@ void GuideViewController::printWebPage()
 
 void GuideViewController::printFinished(const QString& pdfPath, bool ok)
 {
-    // The desktop's PDF viewer offers the print dialog with its printers.
-    if (!ok || !QDesktopServices::openUrl(QUrl::fromLocalFile(pdfPath)))
-        qWarning("Could not print %s", qPrintable(pdfPath));
+    // The app has no print dialog of its own: the desktop's PDF viewer offers
+    // one with the system's printers. Every outcome ends in a message, so the
+    // user always sees where the page went.
+    QString message;
+    if (!ok)
+        message = L::tr("The guide could not be saved as a PDF for printing (%1).").arg(pdfPath);
+    else if (QDesktopServices::openUrl(QUrl::fromLocalFile(pdfPath)))
+        message = L::tr("The guide was saved as a PDF and opened in your PDF viewer, which can print it:\n%1").arg(pdfPath);
+    else
+        message = L::tr("The guide was saved as a PDF; open it to print it:\n%1").arg(pdfPath);
+    DialogService::show(L::tr("Print"), message, L::tr("OK"));
 }
 
 // ---------------------------------------------------------------- info page

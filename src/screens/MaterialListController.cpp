@@ -1,5 +1,6 @@
 #include "MaterialListController.h"
 
+#include "AppDelegate.h"
 #include "MaterialRows.h"
 #include "model/PackManifest.h"
 #include "model/QORModel.h"
@@ -23,6 +24,12 @@ MaterialListController::MaterialListController(QObject* parent)
     QORModel* model = QORModel::sharedInstance();
     connect(model, &QORModel::filterChanged, this, &MaterialListController::onFilterChanged);
     connect(model, &QORModel::modelLoadingStateChanged, this, &MaterialListController::onLoadingStateChanged);
+    // An index row of Reference puts the image of its order on the sort button.
+    connect(QORAppDelegate::sharedInstance(), &QORAppDelegate::sortImageRequested, this, [this](const QString& image) {
+        if (const auto& f = QORModel::sharedInstance()->currentFilter)
+            f->sortImage = image;
+        emit listChanged();
+    });
     m_title = model->currentFilter ? model->currentFilter->getFilterText() : L::tr(" Loading...");
     rebuildRows();
 }

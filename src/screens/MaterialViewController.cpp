@@ -181,7 +181,8 @@ void ProtectionTableDelegate::rebuildRows()
         const QStringList overviewTables = { QStringLiteral("npg_guides"), QStringLiteral("unid_npgid"), QStringLiteral("cameo") };
         if (!tablet) {
             rows.addSource(overviewTables);
-            rows.beginSection(L::tr("Exposure/Protection"), QStringLiteral("Exposure/Protection"));
+            // The pack explains these figures on its pocket-guide page.
+            rows.beginSection(L::tr("Exposure/Protection"), QStringLiteral("NPG"));
         }
         for (const QString& key : std::as_const(m_keys)) {
             const auto caption = std::find_if(m_labels.cbegin(), m_labels.cend(), [&](const auto& l) { return l.first == key; });

@@ -46,9 +46,12 @@ class ShippingTabViewController : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by MaterialViewController")
     Q_PROPERTY(QVariantList rows READ rows NOTIFY rowsChanged)
+    // The entry whose rows show inline; changes with the material.
+    Q_PROPERTY(QVariantMap firstEntry READ firstEntry NOTIFY rowsChanged)
 public:
     using QObject::QObject;
     void setMaterial(const MaterialPtr& material);
+    QVariantMap firstEntry() const { return entryAt(0); }
     QVariantList rows() const { return m_rows; }
     // The entry behind an "entry" row, for its regulation table.
     Q_INVOKABLE QVariantMap entryAt(int index) const;

@@ -12,6 +12,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
+#include <QProcess>
 #include <gtest/gtest.h>
 
 using namespace qor;
@@ -230,4 +231,21 @@ TEST_F(Cli, MaterialNamesItsSourcesAndKeepsItsKeys)
     EXPECT_EQ(runCli({ "--json", "list", "--sort", "2" }).json().object().value("incidentsNote").toString(), note);
     EXPECT_EQ(runCli({ "--json", "list", "--sort", "1" }).json().object().value("incidentsNote").toString(), "");
     EXPECT_TRUE(runCli({ "list", "--category", "M" }).out.contains("0 found"));
+// Scripts merge both streams and parse --json; where no runtime directory is
+// set (containers, cron, ssh) nothing else may appear in them.
+TEST_F(Cli, JsonParsesWithBothStreamsMergedAndNoRuntimeDirectory)
+{
+    QProcess cli;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.remove(QStringLiteral("XDG_RUNTIME_DIR"));
+    env.insert(QStringLiteral("QOR_PACK"), pack.dir());
+    cli.setProcessEnvironment(env);
+    cli.setProcessChannelMode(QProcess::MergedChannels);
+    cli.start(QStringLiteral(QOR_CLI_BINARY), { "--json", "--resources", pack.dir(), "material", "1005" });
+    ASSERT_TRUE(cli.waitForFinished(30000));
+    const QByteArray output = cli.readAll();
+    EXPECT_EQ(cli.exitCode(), 0) << output.constData();
+    QJsonParseError error;
+    QJsonDocument::fromJson(output, &error);
+    EXPECT_EQ(error.error, QJsonParseError::NoError) << output.left(200).constData();
 }

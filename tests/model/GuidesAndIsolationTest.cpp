@@ -4,6 +4,7 @@
 #include "model/QORModel.h"
 
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 using namespace qor;
 using qor::test::FixturePack;
@@ -65,12 +66,28 @@ TEST(Isolation, ConditionsRecordsAndCaching)
 
 TEST(Isolation, NonNumericIdFailsQuietly)
 {
+    // The id is put into the SQL unquoted: one that carries SQL of its own
+    // must find nothing, though the tables hold rows it could reach.
     FixturePack pack;
-    pack.setMaterials({ "ODD NAME'S ID^3^127^1090 or 1=1; drop^^^" });
+    pack.setMaterials({ "ODD NAME'S ID^3^127^1090 or 1=1; drop^^^", "ACETONE^3^127^1090^^^" });
+    pack.sql("npg.db",
+             "insert into iso_distances values ('1090',NULL,'30','100','0.1','0.1','0.2','0.1','','','','','','');"
+             "insert into iso_distances values ('1005',NULL,'30','100','0.1','0.1','0.2','0.1','','','','','','');"
+             "insert into dot_classes values ('1090','3'), ('1005','2.3');");
     ModelFixture model;
     QORModel* m = QORModel::sharedInstance();
-    EXPECT_TRUE(m->isolationDistancesForMaterial(*m->materials.at(0)).isEmpty());
-    EXPECT_EQ(m->classForMaterial(*m->materials.at(0)), "");
+    auto withId = [m](const QString& id) -> Material& {
+        for (const auto& material : std::as_const(m->materials))
+            if (material->unId == id)
+                return *material;
+        throw std::runtime_error("no such material");
+    };
+    Material& odd = withId("1090 or 1=1; drop");
+    EXPECT_TRUE(m->isolationDistancesForMaterial(odd).isEmpty());
+    EXPECT_EQ(m->classForMaterial(odd), "");
+    // The same lookups do answer for a plain id.
+    EXPECT_EQ(m->isolationDistancesForMaterial(withId("1090")).count(), 1);
+    EXPECT_EQ(m->classForMaterial(withId("1090")), "3");
 }
 
 TEST(Isolation, ContainerTableFromThePackOrBuiltIn)

@@ -152,6 +152,8 @@ TEST(MaterialsFile, ClassAndDescriptionFromTheChemistryDatabase)
     QORModel* m = QORModel::sharedInstance();
     EXPECT_EQ(m->classForMaterial(*byName("Acetone")), "3");
     EXPECT_EQ(m->classDescriptionForMaterial(*byName("Acetone")).value_or(""), "Flammable Liquids");
+    // An explosive's id keeps its leading zeros; the lookup must still find it.
+    EXPECT_EQ(m->classForMaterial(*byName("ODD")), "1");
     EXPECT_FALSE(m->classDescriptionForMaterial(*byName("ODD")).has_value()) << "no description for a plain 1";
     EXPECT_TRUE(m->descriptions.isEmpty()) << "descriptions load only when asked";
     m->loadWikipediaDescriptions();

@@ -132,12 +132,12 @@ TestCase {
     }
 
     function test_openPart173Page() {
+        // Through the page's own inline shipping rows, bound to the material shown.
         var page = openMaterial("1005")
         var entry = page.controller.shipping.entryAt(0)
-        if (!entry.nonBulk)  // the pack in use may lack shipping rows for 1005
-            entry = { name: "Sample entry", nonBulk: "202 " }
-        var table = Qt.createQmlObject("import QOR; ShippingTableDelegate {}", test)
-        table.attributes = entry
+        verify(entry.nonBulk, "the pack has a shipping entry for 1005")
+        var table = page.shippingTable
+        compare(table.attributes.name, entry.name)
         var action = table.actionForKey("nonBulk")
         compare(action.kind, "cfr")
         verify(action.html.indexOf("<body>") > 0)
@@ -145,6 +145,36 @@ TestCase {
         tryCompare(stack(), "busy", false)
         compare(stack().currentItem.objectName, "regulationPage")
         compare(regulation.title, "49CFR § 173." + entry.nonBulk.replace(/ /g, ""))
-        table.destroy()
+    }
+
+    function openGuide(guideId) {
+        AppDelegate.showGuide(guideId)
+        tryVerify(function() { var g = findChild(win.contentItem, "guidePage"); return g && g.guideId === guideId }, 3000)
+        var guide = findChild(win.contentItem, "guidePage")
+        tryCompare(guide.StackView.view, "busy", false)
+        return guide
+    }
+
+    function test_leavingFullScreenAnyWayRestoresTheBars() {
+        var tabBar = findChild(win.contentItem, "tabBar")
+        // Escape leaves full screen first, and the guide stays.
+        var guide = openGuide("125")
+        AppDelegate.toggleFullscreen()
+        verify(!tabBar.visible)
+        keyClick(Qt.Key_Escape)
+        verify(!AppDelegate.fullscreen)
+        verify(tabBar.visible, "Escape brings the tab bar back")
+        compare(guide.StackView.view.currentItem, guide)
+        // Leaving the guide while in full screen brings them back too.
+        AppDelegate.toggleFullscreen()
+        guide.StackView.view.pop(null, StackView.Immediate)
+        verify(!AppDelegate.fullscreen)
+        verify(tabBar.visible, "popping the guide brings the tab bar back")
+        // So does switching tabs (a link or shortcut can do that).
+        guide = openGuide("125")
+        AppDelegate.toggleFullscreen()
+        AppDelegate.currentTab = AppDelegate.MaterialsTab
+        verify(tabBar.visible, "another tab brings the tab bar back")
+        findChild(win.contentItem, "guidePage").StackView.view.pop(null, StackView.Immediate)
     }
 }

@@ -28,15 +28,11 @@ TestCase {
     }
 
     function cleanup() {
+        findChild(list(), "filterPage").close()
         list().endSearch()
         AppDelegate.showAllMaterialsWithSort(0)
         var stack = list().StackView.view
         stack.pop(null, StackView.Immediate)
-    }
-
-    function test_launchOpensReference() {
-        // The shell selects the reference tab at launch; initTestCase moved on.
-        compare(AppDelegate.ReferenceTab, 3)
     }
 
     function test_searchShowsRankedRows() {
@@ -95,5 +91,28 @@ TestCase {
         tryCompare(stack, "depth", 2)
         compare(stack.currentItem.material.unId, "1005")
         compare(AppDelegate.currentTab, AppDelegate.MaterialsTab)
+    }
+
+    function textsUnder(item, out) {
+        if (item.text !== undefined && typeof item.text === "string" && item.visible)
+            out.push(item.text)
+        for (var i = 0; i < item.children.length; ++i)
+            textsUnder(item.children[i], out)
+        return out
+    }
+
+    function test_filterScreenCannotRelabelTheCurrentFilter() {
+        // A category chosen here changed the letter of the current filter, so
+        // "All Materials" went on to show only that category. The pull-down
+        // menu switches categories; this screen offers only the incidents switch.
+        var dialog = findChild(list(), "filterPage")
+        verify(dialog)
+        dialog.open()
+        tryCompare(dialog, "opened", true)
+        var texts = textsUnder(dialog.contentItem, [])
+        verify(texts.indexOf("Materials with Incidents") >= 0, texts)
+        compare(texts.filter(function(t) { return t.indexOf("Meth Lab") >= 0 }).length, 0, texts)
+        dialog.reject()
+        tryCompare(dialog, "visible", false)
     }
 }

@@ -51,11 +51,18 @@ TestCase {
         var info = referenceStack().currentItem
         compare(info.objectName, "infoPage")
         compare(info.page, "howto")
-        compare(info.textSizeButton, false)
+        compare(findChild(info, "textSizeButton").visible, false)
         referenceStack().pop(null, StackView.Immediate)
         ref.controller.selectRow(5)
-        compare(referenceStack().currentItem.title, "Emergency Response Phone Numbers")
-        compare(referenceStack().currentItem.textSizeButton, true)
+        info = referenceStack().currentItem
+        compare(info.title, "Emergency Response Phone Numbers")
+        var button = findChild(info, "textSizeButton")
+        verify(button && button.visible, "the other pages offer the text size")
+        tryCompare(referenceStack(), "busy", false)
+        mouseClick(button)
+        tryCompare(button.sheet, "opened", true)
+        button.sheet.accept()
+        tryCompare(button.sheet, "visible", false)
         referenceStack().pop(null, StackView.Immediate)
         // The yellow-pages row opens the material list by UN number.
         ref.controller.selectRow(0)
@@ -87,5 +94,22 @@ TestCase {
         verify(about.edition.length > 0)
         tryCompare(about, "checksumState", AboutController.Verified)
         verify(about.aboutHtml.indexOf("About") >= 0)
+    }
+
+    function test_indexRowsShowTheirOrderFromTheListRoot() {
+        // A material left open on the Materials tab, sorted by name.
+        AppDelegate.showAllMaterialsWithSort(0)
+        var list = win.materialList
+        var materials = list.StackView.view
+        win.openMaterial(list.firstMaterial())
+        tryCompare(materials, "depth", 2)
+        AppDelegate.currentTab = AppDelegate.ReferenceTab
+        win.referencePage.controller.selectRow(0)  // ID Number Index
+        compare(AppDelegate.currentTab, AppDelegate.MaterialsTab)
+        compare(materials.depth, 1, "the list itself is shown, not the material left open")
+        compare(list.controller.sortType, 1)
+        compare(list.controller.sortImage, "Sort-UnId.pdf", "the button shows the order shown")
+        win.referencePage.controller.selectRow(1)  // Name of Material Index
+        compare(list.controller.sortImage, "Sort-Alphabetically.pdf")
     }
 }

@@ -66,10 +66,21 @@ TEST_F(IncidentSummary, GenericEntriesGetTheDefaultUncached)
     EXPECT_FALSE(noId.incidentsSummary.has_value());
 }
 
-TEST_F(IncidentSummary, ResultIsCachedEvenWhenNothingFound)
+TEST_F(IncidentSummary, ASecondCallRunsNoQuery)
 {
-    Material m = material(QStringLiteral("1000"), QStringLiteral("Nothing"));
-    ASSERT_EQ(m.incidentsSummary, model().incidentsSummaryForMaterial(m));
-    m.incidentsSummary = QStringLiteral("cached");
-    EXPECT_EQ(model().incidentsSummaryForMaterial(m), QStringLiteral("cached"));
+    addIncidents("1000", 2, "Highway", "NNNNNNN");
+    Material m = material(QStringLiteral("1000"), QStringLiteral("Something"));
+    Material nothing = material(QStringLiteral("1001"), QStringLiteral("Nothing"));
+    const QString two = model().incidentsSummaryForMaterial(m);
+    EXPECT_EQ(two, "There were 2 incidents" + kLead + " ");
+    EXPECT_EQ(model().incidentsSummaryForMaterial(nothing), kNone + QStringLiteral(". "));
+    // A model on a database that now says the opposite: a second call that
+    // queried would tell what the database holds now, the cached one does not.
+    fixture.reset();
+    pack.sql("hazmat_incidents.dat", "delete from incidents;");
+    addIncidents("1001", 1, "Rail", "NNNNNNN");
+    EXPECT_EQ(model().incidentsSummaryForMaterial(m), two);
+    EXPECT_EQ(model().incidentsSummaryForMaterial(nothing), kNone + QStringLiteral(". ")) << "an empty answer is kept too";
+    Material fresh = material(QStringLiteral("1001"), QStringLiteral("Nothing"));
+    EXPECT_EQ(model().incidentsSummaryForMaterial(fresh), "There was only one incident" + kLead + " ") << "the new rows are there to find";
 }

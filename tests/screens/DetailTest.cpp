@@ -8,6 +8,8 @@
 #include "model/QORModel.h"
 #include "model/Resources.h"
 
+#include <QDir>
+#include <QSet>
 #include <gtest/gtest.h>
 
 using namespace qor;
@@ -193,4 +195,24 @@ TEST_F(DetailTest, ProtectionTabCellsAndCopyTexts)
 
     const QVariantMap top = materialOverviewRow(*material("1005").ptr);
     EXPECT_TRUE(top.value("copyText").toString().startsWith("Ammonia, Anhydrous\nUN1005\nHazard Class "));
+}
+
+TEST_F(DetailTest, EverySectionInfoButtonOpensAPageOfThePack)
+{
+    // The bundled pack is the one the app ships; every page a button names must be in it.
+    const QDir bundled(qEnvironmentVariable("QOR_PACK"));
+    ASSERT_TRUE(bundled.exists(QStringLiteral("NPG.html"))) << qPrintable(bundled.path());
+    MaterialViewController c;
+    c.setMaterialGuide(material("1005"));
+    QSet<QString> named;
+    for (int tab = 0; tab < c.segmentCount(); ++tab) {
+        c.setSelectedViewIndex(tab);
+        for (const QVariantMap& r : rowsOf(c.rows()))
+            if (!r.value("infoPage").toString().isEmpty())
+                named.insert(r.value("infoPage").toString());
+    }
+    for (const QString& page : std::as_const(named))
+        EXPECT_TRUE(bundled.exists(page + QStringLiteral(".html"))) << qPrintable(page);
+    EXPECT_TRUE(named.contains(QStringLiteral("NPG"))) << "the pocket guide page is reachable";
+    EXPECT_TRUE(named.contains(QStringLiteral("GHS")));
 }

@@ -9,6 +9,8 @@
 
 #include <QSettings>
 #include <QSignalSpy>
+#include <QDesktopServices>
+#include "history/DialogService.h"
 #include <gtest/gtest.h>
 
 using namespace qor;
@@ -153,3 +155,39 @@ TEST(WebEnginePageView, ScriptsAreAnsweredOnceWithOrWithoutAHost)
     EXPECT_EQ(view.html(), "<p>é</p>");
     EXPECT_TRUE(view.hasContent());
 }
+
+namespace {
+// Stands in for the desktop: records what would have been opened.
+class UrlRecorder : public QObject {
+    Q_OBJECT
+public:
+    QList<QUrl> opened;
+public slots:
+    void open(const QUrl& url) { opened << url; }
+};
+} // namespace
+
+TEST_F(GuideScreensTest, PrintingAlwaysEndsInSomethingTheUserSees)
+{
+    UrlRecorder desktop;
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), &desktop, "open");
+    DialogRecorder dialogs;
+    GuideViewController c;
+    const QString pdf = pack.path(QStringLiteral("Guide 125.pdf"));
+
+    // Saved: the PDF opens in the viewer (which prints), and the user is told where it is.
+    c.printFinished(pdf, true);
+    ASSERT_EQ(desktop.opened, QList<QUrl>{ QUrl::fromLocalFile(pdf) });
+    ASSERT_EQ(dialogs.dialogs().size(), 1);
+    EXPECT_TRUE(dialogs.dialogs().first().message.contains(pdf)) << qPrintable(dialogs.dialogs().first().message);
+
+    // Not saved: nothing to open, but the user is told.
+    dialogs.clear();
+    c.printFinished(pdf, false);
+    EXPECT_EQ(desktop.opened.size(), 1);
+    ASSERT_EQ(dialogs.dialogs().size(), 1);
+    EXPECT_TRUE(dialogs.dialogs().first().message.contains(QStringLiteral("could not"))) << qPrintable(dialogs.dialogs().first().message);
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+}
+
+#include "GuideScreensTest.moc"

@@ -23,7 +23,8 @@ struct IsolationTest : ::testing::Test {
         pack.setMaterials({ "AMMONIA, ANHYDROUS^2.2^125^1005^X^^", "CHLORINE^2.3^124^1017^X^^", "CHLORINE TRIFLUORIDE^2.3^124^1040^^^",
                             "HYDROGEN CHLORIDE^2.3^125^1050^X^^", "HYDROGEN CHLORIDE, REFRIGERATED^2.3^125^2186^X^^",
                             "HYDROGEN FLUORIDE^8^125^1052^X^^", "SULFUR DIOXIDE^2.3^125^1079^X^^",
-                            "SODIUM^4.3^138^1428^^W^", "CHLOROSILANES^4.3^139^2988^HCl, H2^W^", "ACETONE^3^127^1090^^^" });
+                            "SODIUM^4.3^138^1428^^W^", "CHLOROSILANES^4.3^139^2988^HCl, H2^W^", "ACETONE^3^127^1090^^^",
+                            "CHLOROSULFONIC ACID^8^137^1754^HCl^W^" });
         QString sql;
         for (const char* un : { "1005", "1017", "1040", "1050", "2186", "1052", "1079" })
             sql += QStringLiteral("insert into iso_distances values ('%1',NULL,'100','300','0.5','0.3','2.0','1.3','','','','','','');").arg(un);
@@ -128,4 +129,18 @@ TEST_F(IsolationTest, WaterHeadersNameTheGasesProduced)
     single->toxicInhalationHazard.reset();
     d.setMaterial(MaterialRef(single));
     EXPECT_EQ(d.titleForSection(1), "Spilled In Water");
+}
+
+TEST_F(IsolationTest, ConditionsKeepTheRowOrderOfTheTable)
+{
+    // The land case is listed before the water case, as in the printed table;
+    // neither the model nor the screen may reorder them by name.
+    pack.sql("npg.db",
+             "insert into iso_distances values ('1754','When Spilled on Land','60','200','0.3','0.2','1.1','0.7','500','1500','3.1','1.9','7.4','4.6');"
+             "insert into iso_distances values ('1754','When Spilled in Water','30','100','0.1','0.1','0.3','0.2','100','300','0.6','0.4','1.9','1.2');");
+    IsolationTableDelegate d;
+    d.setMaterial(material("1754"));
+    ASSERT_EQ(d.sections().size(), 2);
+    EXPECT_EQ(d.titleForSection(0), "When Spilled On Land");
+    EXPECT_EQ(d.titleForSection(1), "When Spilled In Water (TIH Gas Produced: HCl)");
 }

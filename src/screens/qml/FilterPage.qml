@@ -3,7 +3,9 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import QOR
 
-// "Filter Materials": materials with incidents only, and the category list.
+// "Filter Materials": materials with incidents only. Categories are switched
+// by the material list's pull-down menu; a category list here would relabel
+// the current filter instead of switching to another one.
 Dialog {
     id: dialog
     objectName: "filterPage"
@@ -15,7 +17,7 @@ Dialog {
 
     FilterController { id: filter }
 
-    onAboutToShow: { filter.refresh(); categories.reload() }
+    onAboutToShow: filter.refresh()
     onRejected: filter.cancel()
 
     header: ToolBar {
@@ -51,28 +53,6 @@ Dialog {
             checked: filter.incidentsOnly
             Accessible.name: text
             onToggled: filter.incidentsOnly = checked
-        }
-        ListView {
-            id: categoryList
-            Layout.fillWidth: true
-            Layout.preferredHeight: contentHeight
-            interactive: false
-            model: CategoriesController { id: categories }
-            delegate: ItemDelegate {
-                required property int index
-                required property string categoryText
-                required property bool isCurrent
-                width: ListView.view.width
-                implicitHeight: QorTheme.touchTarget
-                font.bold: true
-                font.pixelSize: 14
-                Accessible.name: categoryText
-                contentItem: RowLayout {
-                    Label { Layout.fillWidth: true; text: categoryText; wrapMode: Text.Wrap; maximumLineCount: 2; font.bold: true }
-                    Label { text: isCurrent ? "✓" : ""; color: QorTheme.tint; font.pixelSize: 18 }
-                }
-                onClicked: categories.select(index)
-            }
         }
     }
 }

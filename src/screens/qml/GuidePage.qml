@@ -12,7 +12,7 @@ Page {
     property var material
     property alias controller: controller
     property alias host: host
-    property alias textSheet: textSheet
+    property alias textSheet: textSizeButton.sheet
     title: controller.title
     background: Rectangle { color: "#ffb045" }
 
@@ -23,24 +23,22 @@ Page {
         onPrintRequested: function(path) { host.web.printToPdf(path) }
     }
     footer: SourceLine { text: controller.sourceLine }
+    Connections {
+        target: host.web
+        function onPdfPrintingFinished(filePath, success) { controller.printFinished(filePath, success) }
+    }
     Component.onCompleted: controller.viewWillAppear(width, height)
     onWidthChanged: controller.prepareViewsForSize(width, height)
     onHeightChanged: controller.prepareViewsForSize(width, height)
     StackView.onActivating: controller.viewWillAppear(width, height)
+    // Leaving the guide by any route leaves full screen, so the bars come back.
+    StackView.onRemoved: AppDelegate.setFullscreen(false)
 
     header: BarHeader {
         page: page
         title: page.title
         visible: !AppDelegate.fullscreen
-        ToolButton {
-            objectName: "textSizeButton"
-            text: "Aa"
-            font.pixelSize: 18
-            width: QorTheme.touchTarget; height: QorTheme.touchTarget
-            palette.buttonText: "white"
-            Accessible.name: qsTr("Text size")
-            onClicked: textSheet.open()
-        }
+        TextSizeButton { id: textSizeButton; controller: controller }
         ToolButton {
             objectName: "fullscreenButton"
             text: "[ ]"
@@ -117,32 +115,5 @@ Page {
                                 : qsTr("Widen the window for a landscape view of the guide.")
         }
         TapHandler { onTapped: controller.hideRotatePrompt() }
-    }
-
-    Dialog {
-        id: textSheet
-        objectName: "textSheet"
-        anchors.centerIn: Overlay.overlay
-        modal: true
-        width: Math.min(360, page.width - 20)
-        footer: DialogButtonBox {
-            Button { text: qsTr("Done"); implicitHeight: QorTheme.touchTarget; DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole }
-        }
-        property alias slider: slider
-        RowLayout {
-            anchors.fill: parent
-            Label { text: "A"; font.pixelSize: 15 }
-            Slider {
-                id: slider
-                objectName: "textSizeSlider"
-                Layout.fillWidth: true
-                implicitHeight: QorTheme.touchTarget
-                from: 65
-                to: 130
-                value: controller.textFontSize
-                onMoved: controller.sliderChanged(value)
-            }
-            Label { text: "A"; font.pixelSize: 22; font.bold: true }
-        }
     }
 }

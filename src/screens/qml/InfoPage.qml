@@ -12,7 +12,12 @@ Page {
     property bool textSizeButton: false
     property alias controller: controller
     background: Rectangle { color: QorTheme.pageBackground }
-    header: BarHeader { page: page; title: page.title; backText: page.backText }
+    header: BarHeader {
+        page: page
+        title: page.title
+        backText: page.backText
+        TextSizeButton { visible: page.textSizeButton; controller: textSize }
+    }
     InfoViewController {
         id: controller
         onExternalUrlRequested: function(url) { Qt.openUrlExternally(url) }

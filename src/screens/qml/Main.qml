@@ -42,7 +42,11 @@ ApplicationWindow {
         function onDetailMaterialChanged() { window.detailInfo = null }
         function onGuideRequested(guideId, material) { window.openGuide(guideId, material) }
         function onSearchRequested(text) { materialListPage.startSearch(text) }
-        function onEndSearchRequested() { materialListPage.endSearch() }
+        // An index or table row of Reference shows the list itself, from its root.
+        function onEndSearchRequested() {
+            materialsStack.pop(null, StackView.Immediate)
+            materialListPage.endSearch()
+        }
         function onScrollToMaterialRequested(material) { materialListPage.scrollToMaterial(material) }
         function onDialogRequested(title, message, button) {
             messageDialog.title = title
@@ -92,6 +96,11 @@ ApplicationWindow {
     Shortcut {
         sequences: [StandardKey.Back, "Esc"]
         onActivated: {
+            // In full screen the first Escape only brings the bars back.
+            if (AppDelegate.fullscreen) {
+                AppDelegate.setFullscreen(false)
+                return
+            }
             var stack = window.currentStack()
             if (stack && stack.depth > 1)
                 stack.pop()
@@ -201,7 +210,23 @@ ApplicationWindow {
     Component {
         id: detailComponent
         // A stack of its own, so the detail screen can push its sub-screens.
-        StackView { initialItem: MaterialDetailPage { material: AppDelegate.detailMaterial } }
+        // The stack makes (and so owns) the page: a page declared inline would
+        // be handed back and resized while the window is torn down, reloading
+        // its icons through QML contexts that are already gone.
+        // A newly chosen material starts from its own detail, never under a
+        // sub-screen (isolation table, regulation page) of the previous one.
+        StackView {
+            id: detailStack
+            initialItem: detailPageComponent
+            Connections {
+                target: AppDelegate
+                function onDetailMaterialChanged() { detailStack.pop(null, StackView.Immediate) }
+            }
+        }
+    }
+    Component {
+        id: detailPageComponent
+        MaterialDetailPage { material: AppDelegate.detailMaterial }
     }
     Component {
         id: infoDetailComponent
@@ -222,6 +247,53 @@ ApplicationWindow {
                 font.pixelSize: 20
             }
         }
+    }
+
+    // Every screen a user can quit from; the self-test quits from each one.
+    readonly property var tabScreens: ["materials", "guides", "history", "reference", "about", "search"]
+    readonly property var detailScreens: ["detail-summary", "detail-shipping", "detail-protection"]
+    readonly property var pageScreens: ({ "isolation": "IsolationPage.qml", "info": "InfoPage.qml", "regulation": "RegulationPage.qml",
+                                          "provisions": "ProvisionsPage.qml", "provision": "ProvisionPage.qml",
+                                          "shipping-entry": "ShippingEntryPage.qml", "filter": "FilterPage.qml" })
+    function screenNames() {
+        return tabScreens.concat(detailScreens, Object.keys(pageScreens), ["guide", "placards"])
+    }
+
+    // Opens one of screenNames() the way a user reaches it; false when it cannot.
+    function openScreen(name) {
+        var t = tabScreens.indexOf(name)
+        if (t >= 0) {
+            AppDelegate.currentTab = t
+            return true
+        }
+        var m = materialListPage.firstMaterial()
+        if (!m || !m.valid)
+            return false
+        if (name === "guide") {
+            AppDelegate.showGuideForMaterial(m.guideId, m)
+            return true
+        }
+        if (name === "placards") {
+            openPlacards()
+            return true
+        }
+        openMaterial(m)
+        var stack = AppDelegate.tablet ? detailArea.item : materialsStack
+        var detail = stack ? stack.currentItem : null
+        if (!detail || detail.objectName !== "materialDetail")
+            return false
+        var d = detailScreens.indexOf(name)
+        if (d >= 0) {
+            detail.controller.selectedViewIndex = d
+            return true
+        }
+        var file = pageScreens[name]
+        if (!file)
+            return false
+        var props = { "isolation": { material: m }, "info": { page: "Isolation_Distances", title: "" }, "regulation": { html: "" },
+                      "provisions": { provisions: ["A1"] }, "provision": { category: "A", provision: "A1" },
+                      "shipping-entry": { attributes: detail.controller.shipping.firstEntry }, "filter": {} }[name]
+        return !!stack.push(Qt.resolvedUrl(file).toString(), props, StackView.Immediate)
     }
 
     // Visits every screen once; the app's --self-test checks that each loads.

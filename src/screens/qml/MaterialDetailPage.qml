@@ -10,6 +10,7 @@ Page {
     property var material
     property alias controller: controller
     property alias table: table
+    property alias shippingTable: shippingTable
     title: material ? material.name : ""
     background: Rectangle { color: QorTheme.pageBackground }
 
@@ -80,6 +81,6 @@ Page {
                 controller.protection.toggleGhsDetails()
         }
         // Shipping rows shown inline belong to the material's one entry.
-        ShippingTableDelegate { id: shippingTable; attributes: controller.shipping.entryAt(0) }
+        ShippingTableDelegate { id: shippingTable; attributes: controller.shipping.firstEntry }
     }
 }

@@ -29,7 +29,17 @@ Page {
         background: Rectangle { color: QorTheme.barBackground }
         RowLayout {
             anchors.fill: parent
-            Item { implicitWidth: placardsButton.implicitWidth }
+            // The wide layout has no About tab; its About is reached from here.
+            ToolButton {
+                id: aboutButton
+                objectName: "aboutButton"
+                visible: AppDelegate.tablet
+                text: qsTr("About")
+                implicitHeight: QorTheme.touchTarget
+                Layout.preferredWidth: Math.max(implicitWidth, placardsButton.implicitWidth)
+                onClicked: AppDelegate.currentTab = AppDelegate.AboutTab
+            }
+            Item { visible: !AppDelegate.tablet; implicitWidth: placardsButton.implicitWidth }
             Label {
                 Layout.fillWidth: true
                 text: page.title
