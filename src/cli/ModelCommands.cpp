@@ -43,7 +43,8 @@ void printMaterialText(QTextStream& out, const QJsonObject& o)
         if (v.isString())
             out << "  " << key << ": " << v.toString() << "\n";
     }
-    source("material");
+    if (!guideId.isEmpty() || !shippingOnly)
+        source("material");
     if (!cls.isEmpty())
         source("class");
     out << "  Incidents (12 months): " << o.value(QStringLiteral("numIncidents")).toInt() << "\n";
