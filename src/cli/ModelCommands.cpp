@@ -17,13 +17,24 @@ void printMaterialText(QTextStream& out, const QJsonObject& o)
 {
     const QJsonObject sources = o.value(QStringLiteral("sources")).toObject();
     const auto source = [&](const char* group) { out << "    " << sources.value(QLatin1String(group)).toString() << "\n"; };
-    out << o.value(QStringLiteral("name")).toString() << "  UN" << o.value(QStringLiteral("unId")).toString() << "\n";
+    const QString unId = o.value(QStringLiteral("unId")).toString();
+    out << o.value(QStringLiteral("name")).toString() << "  UN" << unId << "\n";
+    const bool shippingOnly = o.value(QStringLiteral("fromShippingTableOnly")).toBool();
+    if (shippingOnly)
+        out << "  " << L::tr("The guidebook's index does not list UN%1; shown from the shipping table.").arg(unId) << "\n";
     const QJsonObject guide = o.value(QStringLiteral("guide")).toObject();
-    out << "  Guide " << o.value(QStringLiteral("guideId")).toString()
-        << (o.value(QStringLiteral("mayPolymerize")).toBool() ? "P" : "");
-    if (!guide.isEmpty())
-        out << "  " << guide.value(QStringLiteral("name")).toString();
-    out << "\n";
+    const QString guideId = o.value(QStringLiteral("guideId")).toString();
+    if (guideId.isEmpty() && shippingOnly) {
+        out << "  " << L::tr("Guide: not in this data pack") << "\n";
+    } else {
+        out << "  Guide " << guideId << (o.value(QStringLiteral("mayPolymerize")).toBool() ? "P" : "");
+        if (!guide.isEmpty())
+            out << "  " << guide.value(QStringLiteral("name")).toString();
+        out << "\n";
+    }
+    const QString row = o.value(QStringLiteral("guidebookRow")).toString();
+    if (!row.isEmpty())
+        out << "  " << L::tr("Guide of the index's row \"%1\"").arg(row) << "\n";
     const QString cls = o.value(QStringLiteral("class")).toString();
     if (!cls.isEmpty())
         out << "  Hazard class " << cls << "  " << o.value(QStringLiteral("classDescription")).toString() << "\n";
@@ -32,7 +43,8 @@ void printMaterialText(QTextStream& out, const QJsonObject& o)
         if (v.isString())
             out << "  " << key << ": " << v.toString() << "\n";
     }
-    source("material");
+    if (!guideId.isEmpty() || !shippingOnly)
+        source("material");
     if (!cls.isEmpty())
         source("class");
     out << "  Incidents (12 months): " << o.value(QStringLiteral("numIncidents")).toInt() << "\n";
@@ -113,10 +125,20 @@ int materialCommand(Context& ctx, QStringList args)
     if (args.size() != 1)
         return ctx.usage(QStringLiteral("material needs exactly one UN number or name"));
     QORModel& model = loadedModel();
-    const MaterialList found = findMaterials(model, args.first());
+    MaterialList found = findMaterials(model, args.first());
     QJsonArray array;
     for (const auto& m : found)
         array.append(materialJson(model, *m));
+    if (found.isEmpty()) {
+        if (MaterialPtr m = model.shippingTableMaterial(args.first())) {
+            found << m;
+            QJsonObject o = materialJson(model, *m);
+            o.insert(QStringLiteral("fromShippingTableOnly"), true);
+            const MaterialPtr row = model.guidebookRowForClass(model.classForMaterial(*m));
+            o.insert(QStringLiteral("guidebookRow"), row ? QJsonValue(row->name) : QJsonValue(QJsonValue::Null));
+            array.append(o);
+        }
+    }
     if (ctx.json) {
         ctx.printJson(array);
     } else {

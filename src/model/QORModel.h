@@ -119,6 +119,16 @@ public:
     QString titleForHMTRegSection(const QString& section);
     QString vesselStowageDescForCategory(const QString& category);
     QString placardNameForMaterial(Material& material);
+    // An ID the guidebook's index leaves out (explosives are listed only by
+    // division) but the shipping table has rows for: a new material named by
+    // its proper shipping names, carrying the guide of the index's unnumbered
+    // row for its explosives division, if any. Null unless unId is four
+    // digits with shipping rows. Not added to materials.
+    MaterialPtr shippingTableMaterial(const QString& unId);
+    // The index's row without a UN number whose name covers the division of
+    // an explosives class ("1.4" or "1.4S" -> "Explosives, division 1.4 or
+    // 1.6"); null for other classes or when no row names the division.
+    MaterialPtr guidebookRowForClass(const QString& hazardClass) const;
     // section may be absent (std::nullopt): the node id is used instead.
     QString getHTMLTextForCFRSection(const std::optional<QString>& section, const QString& node);
 

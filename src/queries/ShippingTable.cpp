@@ -5,6 +5,7 @@
 #include "model/QORModel.h"
 #include "model/Resources.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 
 namespace qor {
@@ -150,6 +151,45 @@ StringMap QORModel::getHmtAttributesForMaterial(Material& material)
         replaceStowage(*this, attributes);
         return attributes;
     });
+}
+
+MaterialPtr QORModel::shippingTableMaterial(const QString& unId)
+{
+    static const QRegularExpression fourDigits(QStringLiteral("^\\d{4}$"));
+    // The id column is numeric, so "4" would find 0004: only whole ids count.
+    if (!fourDigits.match(unId).hasMatch())
+        return nullptr;
+    auto m = std::make_shared<Material>();
+    m->unId = unId;
+    const QList<StringMap> entries = getHmtEntriesForMaterial(*m);
+    if (entries.isEmpty())
+        return nullptr;
+    QStringList names;
+    for (const StringMap& e : entries)
+        if (!names.contains(e.value(QStringLiteral("name"))))
+            names << e.value(QStringLiteral("name"));
+    m->name = names.join(QStringLiteral("; "));
+    if (MaterialPtr row = guidebookRowForClass(classForMaterial(*m)))
+        m->guideId = row->guideId;
+    m->qorAttributes.insert(QStringLiteral("mayPolymerize"), false);
+    return m;
+}
+
+MaterialPtr QORModel::guidebookRowForClass(const QString& hazardClass) const
+{
+    static const QRegularExpression explosive(QStringLiteral("^(1\\.[1-6])[A-S]?$"));
+    static const QRegularExpression division(QStringLiteral("(?<![\\d.])1\\.[1-6](?![\\d.]\\d)"));
+    const auto cls = explosive.match(hazardClass.trimmed());
+    if (!cls.hasMatch())
+        return nullptr;
+    for (const auto& m : materials) {
+        if (std::any_of(m->unId.cbegin(), m->unId.cend(), [](QChar c) { return c.isDigit(); }))
+            continue;
+        for (auto it = division.globalMatch(m->name); it.hasNext();)
+            if (it.next().captured() == cls.captured(1))
+                return m;
+    }
+    return nullptr;
 }
 
 QString QORModel::titleForHMTRegSection(const QString& section)

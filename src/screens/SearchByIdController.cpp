@@ -53,7 +53,14 @@ void SearchByIdController::searchNow()
             found = m;
             break;
         }
-    setMaterial(found);
+    if (found) {
+        setMaterial(found);
+        return;
+    }
+    // Explosives are in the index by division only: lead to that row.
+    MaterialPtr shipped = model->shippingTableMaterial(m_text);
+    MaterialPtr row = shipped ? model->guidebookRowForClass(model->classForMaterial(*shipped)) : nullptr;
+    setMaterial(row, row ? shipped : nullptr);
 }
 
 void SearchByIdController::clear()
@@ -61,39 +68,52 @@ void SearchByIdController::clear()
     setText(QString());
 }
 
-void SearchByIdController::setMaterial(MaterialPtr m)
+void SearchByIdController::setMaterial(MaterialPtr m, MaterialPtr shipped)
 {
-    if (m == m_material.ptr)
+    if (m == m_material.ptr && shipped == m_shipped)
         return;
     m_material = MaterialRef(std::move(m));
+    m_shipped = std::move(shipped);
     emit materialChanged();
 }
 
 QString SearchByIdController::placardImage() const
 {
-    if (!m_material.ptr)
-        return QString();
-    return placardImageForMaterial(*QORModel::sharedInstance(), *m_material.ptr);
+    return shown() ? placardImageForMaterial(*QORModel::sharedInstance(), *shown()) : QString();
 }
 
 QString SearchByIdController::name() const
 {
-    return m_material.name();
+    return shown() ? shown()->name : QString();
 }
 
 QString SearchByIdController::hazardClass() const
 {
-    return m_material.ptr ? QORModel::sharedInstance()->classForMaterial(*m_material.ptr) : QString();
+    return shown() ? QORModel::sharedInstance()->classForMaterial(*shown()) : QString();
 }
 
 QString SearchByIdController::classDescription() const
 {
-    return m_material.ptr ? QORModel::sharedInstance()->classDescriptionForMaterial(*m_material.ptr).value_or(QString()) : QString();
+    return shown() ? QORModel::sharedInstance()->classDescriptionForMaterial(*shown()).value_or(QString()) : QString();
 }
 
 QString SearchByIdController::unIdText() const
 {
-    return m_material.ptr ? L::tr("UN%1").arg(m_material.ptr->unId) : QString();
+    return shown() ? L::tr("UN%1").arg(shown()->unId) : QString();
+}
+
+QString SearchByIdController::rowText() const
+{
+    if (!m_material.ptr)
+        return QString();
+    if (m_shipped)
+        return L::tr("%1 (guide %2)").arg(m_material.ptr->name, m_material.ptr->guideId);
+    return m_material.ptr->name + QStringLiteral("   ") + L::tr("UN%1").arg(m_material.ptr->unId);
+}
+
+QString SearchByIdController::note() const
+{
+    return m_shipped ? L::tr("The guidebook's index lists this explosive by its division only.") : QString();
 }
 
 } // namespace qor

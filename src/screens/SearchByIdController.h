@@ -20,6 +20,10 @@ class SearchByIdController : public QObject {
     Q_PROPERTY(QString hazardClass READ hazardClass NOTIFY materialChanged)
     Q_PROPERTY(QString classDescription READ classDescription NOTIFY materialChanged)
     Q_PROPERTY(QString unIdText READ unIdText NOTIFY materialChanged)
+    // The row that opens material: its name and number, or for an explosive
+    // the index lists only by division, that division's row.
+    Q_PROPERTY(QString rowText READ rowText NOTIFY materialChanged)
+    Q_PROPERTY(QString note READ note NOTIFY materialChanged)
 public:
     explicit SearchByIdController(QObject* parent = nullptr);
 
@@ -34,6 +38,8 @@ public:
     QString hazardClass() const;
     QString classDescription() const;
     QString unIdText() const;
+    QString rowText() const;
+    QString note() const;
     const QString& lastSearchText() const { return m_lastSearchText; }
     int searchCount() const { return m_searchCount; }
 
@@ -45,10 +51,14 @@ signals:
     void materialChanged();
 
 private:
-    void setMaterial(MaterialPtr m);
+    void setMaterial(MaterialPtr m, MaterialPtr shipped = nullptr);
+    // What the card describes: the typed number's shipping record when the
+    // index lists it only by division, else the material itself.
+    Material* shown() const { return m_shipped ? m_shipped.get() : m_material.ptr.get(); }
     QString m_text;
     QString m_lastSearchText;
     MaterialRef m_material;
+    MaterialPtr m_shipped;
     QTimer m_timer;
     int m_searchCount = 0;
 };

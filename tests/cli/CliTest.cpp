@@ -304,3 +304,81 @@ TEST_F(Cli, SearchOffersMarkedSuggestionsOnlyWhenNothingMatches)
     r = runCli({ "search", "--sort", "1", "clorine" });
     EXPECT_FALSE(r.out.contains("Did you mean")) << "names are not searched by UN number";
 }
+
+// The guidebook's index lists explosives by division, not by number: an ID
+// only the shipping table has is shown from it, with its division's guide.
+TEST(ShippingOnlyCli, BundledExplosivesGetTheirDivisionsGuide)
+{
+    const QString pack = qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
+    const auto material = [&](const QStringList& args) {
+        return runCli(QStringList{ QStringLiteral("--resources"), pack } + args);
+    };
+
+    Result r = material({ "material", "0004" });
+    ASSERT_EQ(r.code, 0) << r.err.toStdString();
+    EXPECT_TRUE(r.out.contains("Ammonium picrate  UN0004\n"
+                               "  The guidebook's index does not list UN0004; shown from the shipping table.\n"
+                               "  Guide 112  Explosives* - Division 1.1, 1.2, 1.3 or 1.5\n"))
+        << r.out.toStdString();
+    EXPECT_TRUE(r.out.contains("  Hazard class 1.1  ")) << r.out.toStdString();
+    EXPECT_TRUE(r.out.contains("  Shipping: Ammonium picrate; non-bulk 62, bulk None\n    Source: 49 CFR 172.101")) << r.out.toStdString();
+    EXPECT_TRUE(r.out.contains("    Source: ERG 2024, yellow index")) << "the guide's source line";
+
+    r = material({ "--json", "material", "0004" });
+    ASSERT_EQ(r.code, 0);
+    const QJsonObject o = r.json().array().at(0).toObject();
+    EXPECT_TRUE(o.value("fromShippingTableOnly").toBool());
+    EXPECT_EQ(o.value("unId").toString(), "0004");
+    EXPECT_EQ(o.value("class").toString(), "1.1");
+    EXPECT_EQ(o.value("guideId").toString(), "112");
+    EXPECT_EQ(o.value("guide").toObject().value("guideId").toString(), "112");
+    EXPECT_TRUE(o.value("guidebookRow").toString().startsWith("Explosives, Division 1.1")) << o.value("guidebookRow").toString().toStdString();
+    EXPECT_EQ(o.value("hmtEntries").toArray().size(), 1);
+    EXPECT_TRUE(o.value("sources").toObject().contains("shipping"));
+
+    // Division 1.4 goes to the other row; an ID with rows of two classes keeps every name.
+    EXPECT_EQ(material({ "--json", "material", "0012" }).json().array().at(0).toObject().value("guideId").toString(), "114");
+    EXPECT_EQ(material({ "--json", "material", "0331" }).json().array().at(0).toObject().value("guideId").toString(), "112")
+        << "1.5 shares the 1.1 row";
+    r = material({ "material", "0027" });
+    EXPECT_TRUE(r.out.contains("Black powder for small arms; Black powder or Gunpowder  UN0027\n")) << r.out.toStdString();
+    EXPECT_EQ(r.out.count("  Shipping: "), 2);
+
+    // No class, so no guide: said so, and no source line for a guide not shown.
+    r = material({ "material", "0190" });
+    ASSERT_EQ(r.code, 0);
+    EXPECT_TRUE(r.out.contains("  Guide: not in this data pack\n")) << r.out.toStdString();
+    EXPECT_FALSE(r.out.contains("yellow index")) << r.out.toStdString();
+    EXPECT_TRUE(material({ "--json", "material", "0190" }).json().array().at(0).toObject().value("guide").isNull());
+
+    // In neither table, or not a whole four-digit id (the id column is numeric, so 4 is 0004).
+    for (const char* id : { "9999", "4", "004", "00004", "NA0004" })
+        EXPECT_EQ(material({ "material", id }).code, 1) << id;
+
+    // A material the index lists is shown as before.
+    r = material({ "--json", "material", "1005" });
+    ASSERT_EQ(r.code, 0);
+    for (const QJsonValue& v : r.json().array()) {
+        EXPECT_FALSE(v.toObject().contains("fromShippingTableOnly"));
+        EXPECT_FALSE(v.toObject().contains("guidebookRow"));
+    }
+    r = material({ "material", "1005" });
+    EXPECT_FALSE(r.out.contains("does not list"));
+    EXPECT_TRUE(r.out.contains("Ammonia, Anhydrous  UN1005\n  Guide 125")) << r.out.toStdString();
+}
+
+// The guide comes from whichever unnumbered row of the materials file names
+// the division, whatever its number.
+TEST_F(Cli, ShippingOnlyGuideIsReadFromTheUnnumberedRows)
+{
+    pack.setMaterials({ "CHLORINE^2.3^124^1017^1017^^", "EXPLOSIVES, DIVISION 1.1, 1.2, 1.3 OR 1.5^^124^^^^",
+                        "EXPLOSIVES, DIVISION 1.4 OR 1.6^^125^—^^^" });
+    pack.sql("npg.db", "insert into hmt (un_id, name, class) values ('0012','Cartridges, small arms','1.4S');"
+                       "insert into dot_classes values ('0012','1.4');");
+    const Result r = runCli({ "--json", "material", "0012" });
+    ASSERT_EQ(r.code, 0) << r.err.toStdString();
+    const QJsonObject o = r.json().array().at(0).toObject();
+    EXPECT_EQ(o.value("guideId").toString(), "125");
+    EXPECT_EQ(o.value("guide").toObject().value("name").toString(), "Gases - Corrosive");
+    EXPECT_EQ(o.value("guidebookRow").toString(), "Explosives, Division 1.4 Or 1.6");
+}

@@ -112,4 +112,26 @@ TestCase {
         win.referencePage.controller.selectRow(1)  // Name of Material Index
         compare(list.controller.sortImage, "Sort-Alphabetically.pdf")
     }
+
+    function test_explosiveNumberOpensItsDivisionsRow() {
+        AppDelegate.currentTab = 5  // the search comes last
+        var page = findChild(win, "searchById")
+        var field = findChild(page, "unIdField")
+        verify(field)
+        mouseClick(field)
+        field.selectAll()
+        keyClick(Qt.Key_Delete)
+        for (var c of "0004")
+            keyClick(c)
+        var row = findChild(page, "searchByIdRow")
+        tryCompare(row, "visible", true)
+        verify(row.text.indexOf("guide 112") >= 0, row.text)
+        verify(findChild(page, "searchByIdNote").visible)
+        mouseClick(row)
+        compare(AppDelegate.currentTab, AppDelegate.MaterialsTab)
+        var materials = win.materialList.StackView.view
+        tryCompare(materials, "depth", 2)
+        compare(materials.currentItem.material.guideId, "112")
+        materials.pop(null, StackView.Immediate)
+    }
 }

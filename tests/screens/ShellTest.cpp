@@ -115,6 +115,36 @@ TEST_F(ShellTest, UnNumberSearchTakesFourDigits)
     EXPECT_EQ(search.name(), "");
 }
 
+// The index lists explosives by division only: their numbers lead to that row.
+TEST(SearchById, ExplosiveNumberLeadsToItsDivisionsRow)
+{
+    FixturePack pack;
+    pack.setMaterials({ "CHLORINE^2.3^124^1017^X^^", "EXPLOSIVES, DIVISION 1.4 OR 1.6^^114^^^^" });
+    pack.sql("npg.db", "insert into hmt (un_id, name, class) values ('0012','Cartridges, small arms','1.4S'),"
+                       "('0190','Samples, explosive','');"
+                       "insert into dot_classes values ('0012','1.4');");
+    ModelFixture fixture;
+    SearchByIdController search;
+    search.setText("0012");
+    ASSERT_TRUE(search.material().valid());
+    EXPECT_EQ(search.material().guideId(), "114") << "opens the division's row";
+    EXPECT_EQ(search.name(), "Cartridges, small arms") << "the card names what was typed";
+    EXPECT_EQ(search.unIdText(), "UN0012");
+    EXPECT_EQ(search.hazardClass(), "1.4");
+    EXPECT_EQ(search.rowText(), "Explosives, Division 1.4 Or 1.6 (guide 114)");
+    EXPECT_FALSE(search.note().isEmpty());
+
+    // No division row for it: nothing to open, as before.
+    search.setText("0190");
+    EXPECT_FALSE(search.material().valid());
+    EXPECT_EQ(search.name(), "");
+    EXPECT_TRUE(search.note().isEmpty());
+
+    search.setText("1017");
+    EXPECT_EQ(search.rowText(), "Chlorine   UN1017");
+    EXPECT_TRUE(search.note().isEmpty());
+}
+
 TEST_F(ShellTest, FilterScreenSwitchDoneAndCategories)
 {
     FilterController filter;

@@ -69,13 +69,22 @@ Page {
             }
         }
 
+        Label {
+            objectName: "searchByIdNote"
+            Layout.fillWidth: true
+            visible: text !== ""
+            text: search.note
+            wrapMode: Text.WordWrap
+            color: "#e0e0e0"
+        }
+
         ItemDelegate {
             objectName: "searchByIdRow"
             Layout.fillWidth: true
             implicitHeight: 50
             visible: search.material.valid
-            text: search.name + (search.material.valid ? "   UN" + search.material.unId + "  ›" : "")
-            Accessible.name: qsTr("Open %1").arg(search.name)
+            text: search.rowText + (search.material.valid ? "  ›" : "")
+            Accessible.name: qsTr("Open %1").arg(search.material.name)
             onClicked: page.open()
         }
         Item { Layout.fillHeight: true }
