@@ -112,9 +112,15 @@ bool PackBuilder::readPackInfo()
         if (!packTextContents().contains(it.key()) && !packTableDatabase(it.key()))
             return fail(path, QStringLiteral("\"%1\" is neither a table nor a content of the pack").arg(it.key()));
     // The notice is known once the tables are built (checkProvenance).
+    // {{sources}}: the documents the pack is read from, as declared.
+    QString sources;
+    for (const PackSource& s : std::as_const(m_manifest.sourceList))
+        if (!s.sample && !s.own && !s.files.isEmpty())
+            sources += QStringLiteral("<li>%1</li>\n").arg(s.displayLine().toHtmlEscaped());
     m_packValues = { { QStringLiteral("edition"), m_edition.toHtmlEscaped() },
                      { QStringLiteral("buildDate"), m_buildDate },
-                     { QStringLiteral("notice"), QString() } };
+                     { QStringLiteral("notice"), QString() },
+                     { QStringLiteral("sources"), sources.isEmpty() ? QString() : QStringLiteral("<ul class=\"sources\">\n%1</ul>").arg(sources) } };
     return readText(src(QStringLiteral("src/page.html")), &m_pageTemplate);
 }
 
@@ -394,7 +400,10 @@ bool PackBuilder::buildGuidePages()
     for (const import::ErgGuide& g : guides.guides)
         if (!g.blank && !writePage(g.number, QStringLiteral("Guide %1").arg(g.number), import::guideBodyHtml(g), pdfPath))
             return false;
-    return writePage(QString::fromLatin1(kGuideIntroductionPage), title->text, import::introductionBodyHtml(guides.introduction), pdfPath);
+    // The introduction names where it comes from, as the help pages do.
+    const QString citation = m_manifest.tables.value(QStringLiteral("guides")).citation;
+    const QString sourceLine = citation.isEmpty() ? QString() : QStringLiteral("<p class=\"source\">Source: %1</p>\n").arg(citation.toHtmlEscaped());
+    return writePage(QString::fromLatin1(kGuideIntroductionPage), title->text, import::introductionBodyHtml(guides.introduction) + sourceLine, pdfPath);
 }
 
 bool PackBuilder::buildInfoPages()
@@ -412,6 +421,26 @@ bool PackBuilder::buildInfoPages()
         QString title = m.captured(1);
         title.remove(tags);
         if (!writePage(QFileInfo(name).completeBaseName(), title, body, dir + QLatin1Char('/') + name))
+            return false;
+    }
+    // Chapters no source gives still open, and say so instead of guessing.
+    const QString listPath = src(QStringLiteral("src/unsourced-pages.txt"));
+    QString list;
+    if (!readText(listPath, &list))
+        return false;
+    int lineNumber = 0;
+    for (const QString& raw : list.split(QLatin1Char('\n'))) {
+        ++lineNumber;
+        const QString line = raw.trimmed();
+        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+            continue;
+        const QString where = listPath + QLatin1Char(':') + QString::number(lineNumber);
+        const QString name = line.section(QLatin1Char('^'), 0, 0), title = line.section(QLatin1Char('^'), 1);
+        if (name.isEmpty() || title.isEmpty())
+            return fail(where, QStringLiteral("expected \"page^title\""));
+        if (QFileInfo::exists(dir + QLatin1Char('/') + name + QStringLiteral(".html")))
+            return fail(where, QStringLiteral("page \"%1\" has a source file in src/pages too").arg(name));
+        if (!writePage(name, title, chapterNotInPackHtml(title), where))
             return false;
     }
     return true;
