@@ -26,6 +26,8 @@ namespace {
 constexpr int kIncidentMonths = 12;
 // The information page that explains the guides.
 constexpr char kGuideIntroductionPage[] = "howto";
+// The information page that explains the isolation tables.
+constexpr char kIsolationPage[] = "Isolation_Distances";
 
 QStringList filesIn(const QString& dir, const QString& suffix)
 {
@@ -400,14 +402,38 @@ bool PackBuilder::buildGuidePages()
     for (const import::ErgGuide& g : guides.guides)
         if (!g.blank && !writePage(g.number, QStringLiteral("Guide %1").arg(g.number), import::guideBodyHtml(g), pdfPath))
             return false;
-    // The introduction names where it comes from, as the help pages do.
-    const QString citation = m_manifest.tables.value(QStringLiteral("guides")).citation;
-    const QString sourceLine = citation.isEmpty() ? QString() : QStringLiteral("<p class=\"source\">Source: %1</p>\n").arg(citation.toHtmlEscaped());
-    return writePage(QString::fromLatin1(kGuideIntroductionPage), title->text, import::introductionBodyHtml(guides.introduction) + sourceLine, pdfPath);
+    return writePage(QString::fromLatin1(kGuideIntroductionPage), title->text,
+                     import::introductionBodyHtml(guides.introduction) + sourceLineHtml(QStringLiteral("guides")), pdfPath);
+}
+
+QString PackBuilder::sourceLineHtml(const QString& table) const
+{
+    // Pages read from a document name it, as the help pages do.
+    const QString citation = m_manifest.tables.value(table).citation;
+    return citation.isEmpty() ? QString() : QStringLiteral("<p class=\"source\">Source: %1</p>\n").arg(citation.toHtmlEscaped());
+}
+
+bool PackBuilder::buildIsolationPage()
+{
+    // The page the isolation tables explain themselves with is the
+    // guidebook's own introduction to Table 1, from the green section.
+    const QString pdfPath = src(QStringLiteral("official/erg2024/TIH_Table.pdf"));
+    import::PdfText pdf;
+    std::vector<import::GuideBlock> blocks;
+    QString why;
+    if (!pdf.open(pdfPath, &why) || !import::readTableIntroduction(pdf, QStringLiteral("HOW TO USE TABLE 1"), QStringLiteral("ISOLATE"), &blocks, &why))
+        return fail(pdfPath, why.section(QStringLiteral(": "), 1));
+    const auto title = std::find_if(blocks.begin(), blocks.end(), [](const import::GuideBlock& b) { return b.kind == import::GuideBlock::Kind::Title; });
+    if (title == blocks.end())
+        return fail(pdfPath, QStringLiteral("the introduction to Table 1 has no heading"));
+    return writePage(QString::fromLatin1(kIsolationPage), title->text, import::introductionBodyHtml(blocks) + sourceLineHtml(QStringLiteral("iso_distances")),
+                     pdfPath);
 }
 
 bool PackBuilder::buildInfoPages()
 {
+    if (!buildIsolationPage())
+        return false;
     static const QRegularExpression heading(QStringLiteral("<h1[^>]*>(.*?)</h1>"), QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression tags(QStringLiteral("<[^>]*>"));
     const QString dir = src(QStringLiteral("src/pages"));

@@ -38,6 +38,9 @@ private:
     bool checkProvenance();
     bool buildGuidePages();
     bool buildInfoPages();
+    bool buildIsolationPage();
+    // "Source: ..." for a page read from the documents of a table.
+    QString sourceLineHtml(const QString& table) const;
     bool buildProvisionPages();
     bool buildArtwork();
     bool writeManifest();
