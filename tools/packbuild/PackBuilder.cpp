@@ -82,6 +82,21 @@ bool PackBuilder::readText(const QString& path, QString* text)
     return true;
 }
 
+bool PackBuilder::readList(const QString& path, QList<ListLine>* lines)
+{
+    QString text;
+    if (!readText(path, &text))
+        return false;
+    int lineNumber = 0;
+    for (const QString& raw : text.split(QLatin1Char('\n'))) {
+        ++lineNumber;
+        const QString line = raw.trimmed();
+        if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')))
+            lines->append({ path + QLatin1Char(':') + QString::number(lineNumber), line });
+    }
+    return true;
+}
+
 bool PackBuilder::writeBytes(const QString& rel, const QByteArray& bytes)
 {
     QFile file(out(rel));
@@ -450,17 +465,10 @@ bool PackBuilder::buildInfoPages()
             return false;
     }
     // Chapters no source gives still open, and say so instead of guessing.
-    const QString listPath = src(QStringLiteral("src/unsourced-pages.txt"));
-    QString list;
-    if (!readText(listPath, &list))
+    QList<ListLine> list;
+    if (!readList(src(QStringLiteral("src/unsourced-pages.txt")), &list))
         return false;
-    int lineNumber = 0;
-    for (const QString& raw : list.split(QLatin1Char('\n'))) {
-        ++lineNumber;
-        const QString line = raw.trimmed();
-        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
-            continue;
-        const QString where = listPath + QLatin1Char(':') + QString::number(lineNumber);
+    for (const auto& [where, line] : std::as_const(list)) {
         const QString name = line.section(QLatin1Char('^'), 0, 0), title = line.section(QLatin1Char('^'), 1);
         if (name.isEmpty() || title.isEmpty())
             return fail(where, QStringLiteral("expected \"page^title\""));
