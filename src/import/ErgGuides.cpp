@@ -511,14 +511,14 @@ bool containsLine(const std::vector<PdfWord>& words, const QString& text)
     return all.simplified().contains(text);
 }
 
-bool readIntroPages(const PdfText& pdf, const std::vector<std::vector<PdfWord>>& pages, int firstGuidePage, std::vector<GuideBlock>* out)
+bool readIntroPages(const PdfText& pdf, const std::vector<std::vector<PdfWord>>& pages, const QString& heading, int end,
+                    std::vector<GuideBlock>* out)
 {
-    // The introduction is the last page before the guides that bears its
-    // heading, and those after it; a table of contents further back may name it too.
-    const int end = firstGuidePage < 0 ? int(pages.size()) : firstGuidePage;
+    // The introduction is the last page before `end` that bears its heading,
+    // and those after it; a table of contents further back may name it too.
     int first = -1;
     for (int p = end - 1; p >= 0 && first < 0; --p)
-        if (containsLine(pages[size_t(p)], kIntroHeading))
+        if (containsLine(pages[size_t(p)], heading))
             first = p;
     if (first < 0)
         return false;
@@ -628,7 +628,7 @@ bool readGuides(const PdfText& pdf, ErgGuides* out, QString* error)
     for (const ErgGuide& g : result.guides)
         if (!g.blank && std::none_of(g.blocks.begin(), g.blocks.end(), [](const GuideBlock& b) { return b.kind == GuideBlock::Kind::Section; }))
             return fail(g.page - 1, QStringLiteral("guide %1 has no section headings").arg(g.number));
-    readIntroPages(pdf, pages, firstGuidePage, &result.introduction);
+    readIntroPages(pdf, pages, kIntroHeading, firstGuidePage, &result.introduction);
     *out = std::move(result);
     return true;
 }
@@ -643,11 +643,57 @@ bool readGuideIntroduction(const PdfText& pdf, std::vector<GuideBlock>* out, QSt
             firstGuidePage = p;
     }
     std::vector<GuideBlock> blocks;
-    if (!readIntroPages(pdf, pages, firstGuidePage, &blocks)) {
+    if (!readIntroPages(pdf, pages, kIntroHeading, firstGuidePage < 0 ? int(pages.size()) : firstGuidePage, &blocks)) {
         *error = QStringLiteral("%1: no \"%2\" pages found").arg(pdf.fileName(), kIntroHeading);
         return false;
     }
     *out = std::move(blocks);
+    return true;
+}
+
+bool readTableIntroduction(const PdfText& pdf, const QString& heading, const QString& tableMark, std::vector<GuideBlock>* out,
+                           QString* error)
+{
+    // The introduction runs from its heading up to the first page that
+    // bears the table's own column heads.
+    const auto pages = allWords(pdf);
+    int start = -1, end = -1;
+    for (int p = 0; p < int(pages.size()) && start < 0; ++p)
+        if (containsLine(pages[size_t(p)], heading))
+            start = p;
+    for (int p = start + 1; start >= 0 && p < int(pages.size()) && end < 0; ++p)
+        if (containsLine(pages[size_t(p)], tableMark))
+            end = p;
+    std::vector<GuideBlock> blocks;
+    if (start < 0 || end < 0 || !readIntroPages(pdf, pages, heading, end, &blocks) || !blocks.front().text.startsWith(heading)) {
+        *error = QStringLiteral("%1: no \"%2\" pages before \"%3\"").arg(pdf.fileName(), heading, tableMark);
+        return false;
+    }
+    using K = GuideBlock::Kind;
+    static const QRegularExpression sentenceEnd(QStringLiteral("[.:;!?]$"));
+    // The heading bar is the page's title.
+    blocks.front().kind = K::Title;
+    std::vector<GuideBlock> tidy{ blocks.front() };
+    for (size_t i = 1; i < blocks.size(); ++i) {
+        GuideBlock b = blocks[i];
+        const bool ended = sentenceEnd.match(b.text).hasMatch();
+        // Labels of the figures ("Wind Direction", "Spill") are artwork: short
+        // lines outside lists that are no sentence.
+        if (b.kind != K::Bullet && !ended && b.text.split(QLatin1Char(' ')).size() <= 4)
+            continue;
+        // A sentence broken by a page or a note label goes on in the next block.
+        GuideBlock& last = tidy.back();
+        if (b.kind == K::Paragraph && (last.kind == K::Paragraph || last.kind == K::Label) && !sentenceEnd.match(last.text).hasMatch()) {
+            if (last.kind == K::Label)
+                last.html = QStringLiteral("<b>%1</b>").arg(last.html);  // a label is set in bold
+            last.kind = K::Paragraph;
+            last.text += QLatin1Char(' ') + b.text;
+            last.html += QLatin1Char(' ') + b.html;
+            continue;
+        }
+        tidy.push_back(b);
+    }
+    *out = std::move(tidy);
     return true;
 }
 

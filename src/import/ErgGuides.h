@@ -51,6 +51,13 @@ bool readGuides(const PdfText& pdf, ErgGuides* out, QString* error);
 // Only the introduction ("HOW TO USE THE ORANGE GUIDES" up to the first guide).
 bool readGuideIntroduction(const PdfText& pdf, std::vector<GuideBlock>* out, QString* error);
 
+// The pages that explain a table: from the first page bearing `heading` up
+// to the next page bearing `tableMark` (words only the table's head has);
+// found by their words, never by page numbers. False with
+// *error = "FILE: reason" when there are none.
+bool readTableIntroduction(const PdfText& pdf, const QString& heading, const QString& tableMark, std::vector<GuideBlock>* out,
+                           QString* error);
+
 // HTML bodies for the page frame of the pack: headings and lists only, no
 // styles of their own, so the app's style sheets, text size and dark
 // appearance apply.

@@ -74,6 +74,7 @@ bool PackManifest::readProvenance(const QJsonObject& o, QString* error)
             s.edition = so.value(QStringLiteral("edition")).toString();
             s.citation = so.value(QStringLiteral("citation")).toString();
             s.sample = so.value(QStringLiteral("sample")).toBool(false);
+            s.own = so.value(QStringLiteral("own")).toBool(false);
             s.partial = so.value(QStringLiteral("partial")).toBool(false);
             const QJsonObject period = so.value(QStringLiteral("period")).toObject();
             s.periodFrom = period.value(QStringLiteral("from")).toString();
@@ -185,6 +186,8 @@ bool PackManifest::writeWithChecksums(const QString& dir, QString* error)
                            { QStringLiteral("files"), sf } };
         if (s.sample)
             entry.insert(QStringLiteral("sample"), true);
+        if (s.own)
+            entry.insert(QStringLiteral("own"), true);
         if (s.partial)
             entry.insert(QStringLiteral("partial"), true);
         if (!s.periodFrom.isEmpty())

@@ -21,6 +21,7 @@ struct PackSource {
     QString edition;   // edition or capture date, as the document gives it
     QString citation;  // short form shown on screens ("ERG 2024")
     bool sample = false;   // content written by us, not an official document
+    bool own = false;      // the app's own artwork or help text: no reference values, so not sample
     bool partial = false;  // an extract: counts drawn from it are not complete
     QString periodFrom, periodTo;  // "yyyy-MM": months a partial extract covers
     QMap<QString, QString> files;  // path in the pack sources -> SHA-256 (hex)

@@ -187,4 +187,11 @@ QString regulationNotInPackHtml(const QString& citation)
         .arg(c);
 }
 
+QString chapterNotInPackHtml(const QString& title)
+{
+    return QStringLiteral("<h1>%1</h1>\n<div class=\"not-in-pack\"><p>This chapter is not in this data pack. The pack holds "
+                          "only what its official source documents give, and none of them has this chapter.</p></div>\n")
+        .arg(title.toHtmlEscaped());
+}
+
 } // namespace qor

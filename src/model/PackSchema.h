@@ -47,5 +47,8 @@ QString specialProvisionPage(const QString& code);
 // The HTML a regulation page shows when the pack lacks its text: it names
 // the text ("49 CFR § 173.203") and how to add it, never a blank page.
 QString regulationNotInPackHtml(const QString& citation);
+// The body of an information page none of the pack's sources gives: its
+// title and that the chapter is not in this data pack, never a guess.
+QString chapterNotInPackHtml(const QString& title);
 
 } // namespace qor

@@ -18,18 +18,24 @@ const QStringList kImages = {
     QStringLiteral("148.png"), QStringLiteral("153.a.png"), QStringLiteral("153.b.png"), QStringLiteral("158.png"),
     QStringLiteral("163.png"), QStringLiteral("171.png"),
 };
-const QStringList kGuides = {
-    QStringLiteral("111"), QStringLiteral("112"), QStringLiteral("112"), QStringLiteral("112"), QStringLiteral("114"),
-    QStringLiteral("118"), QStringLiteral("121"), QStringLiteral("122"), QStringLiteral("123"), QStringLiteral("125"),
-    QStringLiteral("127"), QStringLiteral("128"), QStringLiteral("134"), QStringLiteral("136"), QStringLiteral("139"),
-    QStringLiteral("143"), QStringLiteral("148"), QStringLiteral("153"), QStringLiteral("153"), QStringLiteral("158"),
-    QStringLiteral("163"), QStringLiteral("171"),
+// What each row's drawing shows, for the row's label and screen readers.
+const QStringList kNames = {
+    QStringLiteral("Dangerous"),          QStringLiteral("Division 1.1"),        QStringLiteral("Division 1.2"),
+    QStringLiteral("Divisions 1.3, 1.5"), QStringLiteral("Divisions 1.4, 1.6"),  QStringLiteral("Division 2.1"),
+    QStringLiteral("Division 2.2"),       QStringLiteral("Oxygen"),              QStringLiteral("Division 2.3"),
+    QStringLiteral("Division 2.3, Class 8"), QStringLiteral("Class 3"),          QStringLiteral("Combustible"),
+    QStringLiteral("Division 4.1"),       QStringLiteral("Division 4.2"),        QStringLiteral("Division 4.3"),
+    QStringLiteral("Division 5.1"),       QStringLiteral("Division 5.2"),        QStringLiteral("Division 6.1"),
+    QStringLiteral("Class 8"),            QStringLiteral("Division 6.2"),        QStringLiteral("Class 7"),
+    QStringLiteral("Class 9"),
 };
 } // namespace
 
 PlacardViewController::PlacardViewController(QObject* parent)
-    : QAbstractListModel(parent), placardImages(kImages), guideRefs(kGuides)
+    : QAbstractListModel(parent), placardImages(kImages), placardNames(kNames)
 {
+    // The guidebook's chart of which guide each placard leads to is not in
+    // the pack, so no row names a guide: guideRefs stays empty.
 }
 
 int PlacardViewController::rowCount(const QModelIndex& parent) const
@@ -47,6 +53,8 @@ QVariant PlacardViewController::data(const QModelIndex& index, int role) const
         return placardImages.at(row);
     case ImageUrlRole:
         return QUrl::fromLocalFile(Resources::path(placardImages.at(row))).toString();
+    case NameRole:
+        return placardNames.value(row);
     case GuideIdRole:
         return guideRefs.value(row);
     default:
@@ -56,7 +64,7 @@ QVariant PlacardViewController::data(const QModelIndex& index, int role) const
 
 QHash<int, QByteArray> PlacardViewController::roleNames() const
 {
-    return { { ImageRole, "image" }, { ImageUrlRole, "imageUrl" }, { GuideIdRole, "guideId" } };
+    return { { ImageRole, "image" }, { ImageUrlRole, "imageUrl" }, { NameRole, "name" }, { GuideIdRole, "guideId" } };
 }
 
 QString PlacardViewController::title() const
@@ -66,9 +74,15 @@ QString PlacardViewController::title() const
 
 QString PlacardViewController::sectionHeader() const
 {
-    return L::tr("Table of markings, labels and placards and initial response guide to use on-scene. USE THIS TABLE "
-                 "ONLY IF MATERIALS CANNOT BE SPECIFICALLY IDENTIFIED BY USING THE SHIPPING DOCUMENT, NUMBERED "
-                 "PLACARD, OR ORANGE PANEL NUMBER");
+    return L::tr("Table of markings, labels and placards");
+}
+
+QString PlacardViewController::chartNotice() const
+{
+    return guideRefs.isEmpty() ? L::tr("The guidebook's placard chart, which names the initial response guide for each "
+                                       "placard, is not in this data pack. Identify the material by the shipping "
+                                       "document, numbered placard or orange panel number.")
+                               : QString();
 }
 
 QString PlacardViewController::selectRow(int row)

@@ -1,6 +1,6 @@
 #pragma once
-// The placard table: a responder who cannot identify the material picks the
-// placard seen on scene and gets the guide to start from.
+// The placard table: the standard placards a responder may see on scene. A
+// row leads to a guide only where the pack holds the chart that names it.
 #include <QAbstractListModel>
 #include <QStringList>
 #include "model/PackManifest.h"
@@ -16,8 +16,9 @@ class PlacardViewController : public QAbstractListModel {
     Q_PROPERTY(QString sectionHeader READ sectionHeader CONSTANT)
     Q_PROPERTY(int rowHeight READ rowHeight CONSTANT)
     Q_PROPERTY(QString sourceLine READ sourceLine CONSTANT)
+    Q_PROPERTY(QString chartNotice READ chartNotice CONSTANT)
 public:
-    enum Roles { ImageRole = Qt::UserRole + 1, ImageUrlRole, GuideIdRole };
+    enum Roles { ImageRole = Qt::UserRole + 1, ImageUrlRole, NameRole, GuideIdRole };
     Q_ENUM(Roles)
     static constexpr int kRowHeight = 85;
 
@@ -31,9 +32,13 @@ public:
     QString sectionHeader() const;
     int rowHeight() const { return kRowHeight; }
     QString sourceLine() const { return PackManifest::sourceLine({ QStringLiteral("placards") }); }
+    // Says the placard-to-guide chart is missing while guideRefs is empty.
+    QString chartNotice() const;
 
-    // Parallel lists: the row's artwork and the guide it leads to.
+    // Parallel lists: the row's artwork, what it shows, and the guide it
+    // leads to (empty: no source among the pack's gives that chart).
     const QStringList placardImages;
+    const QStringList placardNames;
     const QStringList guideRefs;
 
     // Loads the row's guide and asks for it to be shown; the guide id, or

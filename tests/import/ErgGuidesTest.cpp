@@ -308,5 +308,39 @@ TEST(ErgGuidesErrors, NameTheFileAndPage)
     EXPECT_EQ(error, QStringLiteral("drawn.pdf: no \"HOW TO USE THE ORANGE GUIDES\" pages found"));
 }
 
+TEST(ErgGuides, TableOneIntroductionAsPrinted)
+{
+    PdfText pdf;
+    QString error;
+    ASSERT_TRUE(pdf.open(officialPdf("TIH_Table.pdf"), &error)) << error.toStdString();
+    std::vector<GuideBlock> intro;
+    ASSERT_TRUE(readTableIntroduction(pdf, QStringLiteral("HOW TO USE TABLE 1"), QStringLiteral("ISOLATE"), &intro, &error))
+        << error.toStdString();
+    ASSERT_GE(intro.size(), 10u);
+    EXPECT_EQ(intro.front().kind, Kind::Title);
+    EXPECT_EQ(intro.front().text, QStringLiteral("HOW TO USE TABLE 1 – INITIAL ISOLATION AND PROTECTIVE ACTION DISTANCES"));
+    QStringList texts;
+    for (const GuideBlock& b : intro)
+        texts << b.text;
+    // Numbered steps whole, the four bullets of step 1, nothing of Table 1 itself.
+    EXPECT_EQ(std::count_if(intro.begin(), intro.end(), [](const GuideBlock& b) { return b.kind == Kind::Bullet; }), 4);
+    EXPECT_TRUE(texts.filter(QRegularExpression(QStringLiteral("^\\(3\\) Determine .* A SMALL SPILL consists of a release of 208 liters \\(55 US gallons\\) or less\\."))).size() == 1);
+    EXPECT_TRUE(texts.filter(QStringLiteral("Ammonia")).isEmpty());
+    // The figure's labels are not text; a sentence broken by the page or a note label is one block.
+    for (const char* label : { "Wind Direction", "Spill", "Zone", "Crosswind", "UPWIND DOWNWIND" })
+        EXPECT_FALSE(texts.contains(QLatin1String(label))) << label;
+    EXPECT_EQ(texts.filter(QStringLiteral("emergency responders and the public. People in this area should be evacuated")).size(), 1);
+    EXPECT_EQ(texts.filter(QStringLiteral("Note 3: For the instantaneous release of the entire contents of a package (e.g., as a result of terrorism, sabotage or catastrophic failure), the distances should be doubled.")).size(), 1);
+    EXPECT_TRUE(intro.back().text.startsWith(QStringLiteral("For more information on the material")));
+
+    // The guide section has no such pages: an error naming the file, nothing read.
+    PdfText guides;
+    ASSERT_TRUE(guides.open(officialPdf("ERG_Guide_Section.pdf"), &error));
+    std::vector<GuideBlock> none;
+    EXPECT_FALSE(readTableIntroduction(guides, QStringLiteral("HOW TO USE TABLE 1"), QStringLiteral("ISOLATE"), &none, &error));
+    EXPECT_TRUE(error.startsWith(QStringLiteral("ERG_Guide_Section.pdf: no \"HOW TO USE TABLE 1\" pages"))) << error.toStdString();
+    EXPECT_TRUE(none.empty());
+}
+
 } // namespace
 } // namespace qor::import

@@ -70,6 +70,30 @@ TEST(PackManifest, ProvenanceSurvivesWriteAndRead)
     EXPECT_TRUE(read->files.contains(QStringLiteral("chemicals_2024.csv")));
 }
 
+TEST(PackManifest, OwnArtworkIsNeitherSampleNorOfficial)
+{
+    FixturePack pack;
+    PackManifest written = officialManifest();
+    PackSource art;
+    art.id = QStringLiteral("qor-artwork");
+    art.title = QStringLiteral("Artwork drawn for QOR");
+    art.own = true;
+    art.files.insert(QStringLiteral("src/art/placards.svg"), QString(64, QLatin1Char('b')));
+    written.sourceList << art;
+    PackTable placards;
+    placards.sources << art.id;
+    written.tables.insert(QStringLiteral("placards"), placards);
+    ASSERT_TRUE(written.writeWithChecksums(pack.dir()));
+    const auto read = PackManifest::read(pack.dir());
+    ASSERT_TRUE(read);
+    ASSERT_TRUE(read->source(art.id));
+    EXPECT_TRUE(read->source(art.id)->own);
+    EXPECT_FALSE(read->source(art.id)->sample);
+    EXPECT_FALSE(read->source(QStringLiteral("erg2024"))->own);
+    EXPECT_FALSE(read->tableIsSample(QStringLiteral("placards")));
+    EXPECT_FALSE(read->sample);
+}
+
 TEST(PackManifest, CitationsAndPartialNotes)
 {
     const PackManifest m = officialManifest();

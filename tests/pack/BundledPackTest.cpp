@@ -1,16 +1,19 @@
-// The bundled sample pack: it validates, and it holds what the app hard-codes
+// The bundled pack: it validates, and it holds what the app hard-codes
 // and what its screens are meant to show.
 #include "FixturePack.h"
 #include "PackValidator.h"
 
 #include "model/PackManifest.h"
+#include "model/PackSchema.h"
 #include "model/QORModel.h"
 #include "model/Resources.h"
 #include "model/Sqlite.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSet>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace qor::test {
@@ -20,6 +23,12 @@ namespace {
 QString bundledPack()
 {
     return qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
+}
+
+QString packText(const QString& name)
+{
+    QFile file(bundledPack() + QLatin1Char('/') + name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 class BundledPack : public ::testing::Test {
@@ -86,14 +95,75 @@ TEST(BundledPackValidation, IsCleanAndNamesItsSources)
     EXPECT_EQ(official, 10);
     EXPECT_EQ(manifest->source(QStringLiteral("dot5800"))->files.size(), 12) << "one file per month of reports";
 
-    // "sample" is true exactly when some table with rows declares sample content.
-    bool sampleRows = false;
+    // Built from the official documents only: no content declares sample
+    // sources, and no page carries the sample notice.
+    EXPECT_FALSE(manifest->sample);
     for (auto it = manifest->tables.cbegin(); it != manifest->tables.cend(); ++it)
-        sampleRows = sampleRows || (it->rows != 0 && manifest->tableIsSample(it.key()));
-    EXPECT_EQ(manifest->sample, sampleRows);
-    QFile guide(bundledPack() + QStringLiteral("/128.html"));
-    ASSERT_TRUE(guide.open(QIODevice::ReadOnly));
-    EXPECT_EQ(QString::fromUtf8(guide.readAll()).contains(PackManifest::sampleNotice()), manifest->sample);
+        EXPECT_FALSE(manifest->tableIsSample(it.key())) << it.key().toStdString();
+    for (const char* name : { "128.html", "about.html", "bleve.html", "NPG.html" })
+        EXPECT_FALSE(packText(QString::fromLatin1(name)).contains(PackManifest::sampleNotice())) << name;
+}
+
+// True when the citation names only official documents of the pack: a
+// source with files, or a table citation whose sources all are.
+bool citesOfficialSource(const PackManifest& m, const QString& citation)
+{
+    auto official = [&](const QString& id) {
+        const PackSource* s = m.source(id);
+        return s && !s->sample && !s->own && !s->files.isEmpty();
+    };
+    for (const PackSource& s : m.sourceList)
+        if (s.citation == citation && official(s.id))
+            return true;
+    for (const PackTable& t : m.tables)
+        if (t.citation == citation && !t.sources.isEmpty() && std::all_of(t.sources.cbegin(), t.sources.cend(), official))
+            return true;
+    return false;
+}
+
+TEST(BundledPackPages, EveryInfoPageIsOfficialOrSaysItIsNotInThePack)
+{
+    const auto manifest = PackManifest::read(bundledPack());
+    ASSERT_TRUE(manifest);
+    static const QRegularExpression sourceLine(QStringLiteral("<p class=\"source\">Source: ([^<]*)</p>"));
+    static const QRegularExpression title(QStringLiteral("<title>([^<]+)</title>"));
+    int missing = 0;
+    for (const QString& name : packInfoPages() + QStringList{ QStringLiteral("decon"), QStringLiteral("hazardclasses") }) {
+        const QString html = packText(name + QStringLiteral(".html"));
+        ASSERT_FALSE(html.isEmpty()) << name.toStdString();
+        const QString pageTitle = title.match(html).captured(1);
+        EXPECT_FALSE(pageTitle.isEmpty()) << name.toStdString() << ": a page keeps its title";
+        if (html.contains(QStringLiteral("class=\"not-in-pack\""))) {
+            ++missing;
+            EXPECT_TRUE(html.contains(QStringLiteral("<h1>%1</h1>").arg(pageTitle))) << name.toStdString();
+            EXPECT_TRUE(html.contains(QStringLiteral("not in this data pack"))) << name.toStdString();
+            // Nothing besides the title and the note: no lists, tables or figures.
+            for (const char* tag : { "<ul", "<ol", "<table", "<img", "<dl" })
+                EXPECT_FALSE(html.contains(QLatin1String(tag))) << name.toStdString() << " holds " << tag;
+            continue;
+        }
+        const auto m = sourceLine.match(html);
+        ASSERT_TRUE(m.hasMatch()) << name.toStdString() << ": neither names an official source nor says it is not in the pack";
+        EXPECT_TRUE(citesOfficialSource(*manifest, m.captured(1)))
+            << name.toStdString() << " cites \"" << m.captured(1).toStdString() << "\", not an official source of the pack";
+    }
+    // The guidebook's white-page chapters are not among the sources.
+    EXPECT_GE(missing, 20);
+    EXPECT_TRUE(packText(QStringLiteral("howto.html")).contains(QStringLiteral("<p class=\"source\">")));
+}
+
+TEST(BundledPackPages, AboutNamesTheOfficialDocuments)
+{
+    const auto manifest = PackManifest::read(bundledPack());
+    ASSERT_TRUE(manifest);
+    for (const char* name : { "about.html", "about-ipad.html" }) {
+        const QString html = packText(QString::fromLatin1(name));
+        const QString text = QString(html).remove(QRegularExpression(QStringLiteral("<[^>]*>")));
+        EXPECT_FALSE(text.contains(QStringLiteral("sample"), Qt::CaseInsensitive)) << name;
+        EXPECT_TRUE(html.contains(manifest->edition.toHtmlEscaped())) << name;
+        for (const PackSource& s : manifest->sourceList)
+            EXPECT_EQ(html.contains(s.displayLine().toHtmlEscaped()), !s.own && !s.files.isEmpty()) << name << ": " << s.id.toStdString();
+    }
 }
 
 TEST_F(BundledPack, HoldsTheGuidebookIndex)

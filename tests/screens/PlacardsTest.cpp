@@ -1,4 +1,4 @@
-// The placard table: its rows, header and the guide each placard opens.
+// The placard table: its rows and header, and that no row claims a guide the pack does not give.
 #include "FakePageView.h"
 #include "FixturePack.h"
 
@@ -30,41 +30,39 @@ struct PlacardsTest : ::testing::Test {
 };
 } // namespace
 
-TEST_F(PlacardsTest, TwentyTwoRowsInTableOrder)
+TEST_F(PlacardsTest, TwentyTwoRowsInTableOrderEachNamed)
 {
     ASSERT_EQ(placards.rowCount(), 22);
-    EXPECT_EQ(placards.placardImages.size(), placards.guideRefs.size());
+    EXPECT_EQ(placards.placardImages.size(), placards.placardNames.size());
     auto at = [&](int row, int role) { return placards.data(placards.index(row), role).toString(); };
     EXPECT_EQ(at(0, PlacardViewController::ImageRole), "111.png");
     EXPECT_EQ(at(3, PlacardViewController::ImageRole), "112.c.png");
     EXPECT_EQ(at(18, PlacardViewController::ImageRole), "153.b.png");
     EXPECT_EQ(at(21, PlacardViewController::ImageRole), "171.png");
-    EXPECT_EQ(at(21, PlacardViewController::GuideIdRole), "171");
+    EXPECT_EQ(at(0, PlacardViewController::NameRole), "Dangerous");
+    EXPECT_EQ(at(3, PlacardViewController::NameRole), "Divisions 1.3, 1.5");
+    EXPECT_EQ(at(18, PlacardViewController::NameRole), "Class 8");
+    EXPECT_EQ(at(21, PlacardViewController::NameRole), "Class 9");
     EXPECT_TRUE(at(0, PlacardViewController::ImageUrlRole).endsWith("/111.png"));
     EXPECT_TRUE(placards.data(placards.index(22), PlacardViewController::ImageRole).isNull());
     EXPECT_EQ(placards.rowHeight(), 85);
-    EXPECT_TRUE(placards.sectionHeader().startsWith("Table of markings, labels and placards and initial response"));
-    EXPECT_TRUE(placards.sectionHeader().endsWith("NUMBERED PLACARD, OR ORANGE PANEL NUMBER"));
 }
 
-TEST_F(PlacardsTest, EveryPlacardOfAGuideOpensThatGuide)
+TEST_F(PlacardsTest, NoRowClaimsAGuideAndTheScreenSaysWhy)
 {
-    QSignalSpy requested(&placards, &PlacardViewController::guideRequested);
-    for (int row : { 1, 2, 3 })
-        EXPECT_EQ(placards.selectRow(row), "112") << "row " << row;
-    for (int row : { 17, 18 })
-        EXPECT_EQ(placards.selectRow(row), "153") << "row " << row;
-    ASSERT_EQ(requested.count(), 5);
-    EXPECT_EQ(requested.at(0).at(0).toString(), "112");
-    EXPECT_EQ(requested.at(4).at(0).toString(), "153");
-    EXPECT_NE(GuideViewFactory::sharedInstance(false), nullptr) << "the guide page builder was asked to load it";
+    // The guidebook's placard chart is not among the pack's sources.
+    EXPECT_TRUE(placards.guideRefs.isEmpty());
+    for (int row = 0; row < placards.rowCount(); ++row)
+        EXPECT_EQ(placards.data(placards.index(row), PlacardViewController::GuideIdRole).toString(), "") << "row " << row;
+    EXPECT_FALSE(placards.sectionHeader().contains("guide", Qt::CaseInsensitive));
+    EXPECT_TRUE(placards.chartNotice().contains("not in this data pack"));
 }
 
-TEST_F(PlacardsTest, AGuideMissingFromThePackOpensNothing)
+TEST_F(PlacardsTest, ChoosingARowOpensNothing)
 {
     QSignalSpy requested(&placards, &PlacardViewController::guideRequested);
-    EXPECT_EQ(placards.selectRow(21), "");
-    EXPECT_EQ(placards.selectRow(-1), "");
-    EXPECT_EQ(placards.selectRow(22), "");
+    for (int row : { -1, 0, 1, 17, 21, 22 })
+        EXPECT_EQ(placards.selectRow(row), "") << "row " << row;
     EXPECT_EQ(requested.count(), 0);
+    EXPECT_EQ(GuideViewFactory::sharedInstance(false), nullptr) << "no guide was loaded";
 }

@@ -86,17 +86,10 @@ bool PackBuilder::buildArtwork()
         defs += text.mid(begin + 6, end - begin - 6);
     }
 
-    const QString manifest = artDir + QStringLiteral("/artwork.txt");
-    QString list;
-    if (!readText(manifest, &list))
+    QList<ListLine> list;
+    if (!readList(artDir + QStringLiteral("/artwork.txt"), &list))
         return false;
-    int lineNumber = 0;
-    for (const QString& raw : list.split(QLatin1Char('\n'))) {
-        ++lineNumber;
-        const QString line = raw.trimmed();
-        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
-            continue;
-        const QString where = manifest + QLatin1Char(':') + QString::number(lineNumber);
+    for (const auto& [where, line] : std::as_const(list)) {
         const QStringList f = line.split(QRegularExpression(QStringLiteral("\\s+")));
         const bool png = f.value(0).endsWith(QLatin1String(".png"));
         bool ok = (f.size() == 4 && f.at(0).endsWith(QLatin1String(".pdf"))) || (f.size() == 6 && png);

@@ -26,6 +26,8 @@ namespace {
 constexpr int kIncidentMonths = 12;
 // The information page that explains the guides.
 constexpr char kGuideIntroductionPage[] = "howto";
+// The information page that explains the isolation tables.
+constexpr char kIsolationPage[] = "Isolation_Distances";
 
 QStringList filesIn(const QString& dir, const QString& suffix)
 {
@@ -80,6 +82,21 @@ bool PackBuilder::readText(const QString& path, QString* text)
     return true;
 }
 
+bool PackBuilder::readList(const QString& path, QList<ListLine>* lines)
+{
+    QString text;
+    if (!readText(path, &text))
+        return false;
+    int lineNumber = 0;
+    for (const QString& raw : text.split(QLatin1Char('\n'))) {
+        ++lineNumber;
+        const QString line = raw.trimmed();
+        if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')))
+            lines->append({ path + QLatin1Char(':') + QString::number(lineNumber), line });
+    }
+    return true;
+}
+
 bool PackBuilder::writeBytes(const QString& rel, const QByteArray& bytes)
 {
     QFile file(out(rel));
@@ -112,9 +129,15 @@ bool PackBuilder::readPackInfo()
         if (!packTextContents().contains(it.key()) && !packTableDatabase(it.key()))
             return fail(path, QStringLiteral("\"%1\" is neither a table nor a content of the pack").arg(it.key()));
     // The notice is known once the tables are built (checkProvenance).
+    // {{sources}}: the documents the pack is read from, as declared.
+    QString sources;
+    for (const PackSource& s : std::as_const(m_manifest.sourceList))
+        if (!s.sample && !s.own && !s.files.isEmpty())
+            sources += QStringLiteral("<li>%1</li>\n").arg(s.displayLine().toHtmlEscaped());
     m_packValues = { { QStringLiteral("edition"), m_edition.toHtmlEscaped() },
                      { QStringLiteral("buildDate"), m_buildDate },
-                     { QStringLiteral("notice"), QString() } };
+                     { QStringLiteral("notice"), QString() },
+                     { QStringLiteral("sources"), sources.isEmpty() ? QString() : QStringLiteral("<ul class=\"sources\">\n%1</ul>").arg(sources) } };
     return readText(src(QStringLiteral("src/page.html")), &m_pageTemplate);
 }
 
@@ -394,11 +417,38 @@ bool PackBuilder::buildGuidePages()
     for (const import::ErgGuide& g : guides.guides)
         if (!g.blank && !writePage(g.number, QStringLiteral("Guide %1").arg(g.number), import::guideBodyHtml(g), pdfPath))
             return false;
-    return writePage(QString::fromLatin1(kGuideIntroductionPage), title->text, import::introductionBodyHtml(guides.introduction), pdfPath);
+    return writePage(QString::fromLatin1(kGuideIntroductionPage), title->text,
+                     import::introductionBodyHtml(guides.introduction) + sourceLineHtml(QStringLiteral("guides")), pdfPath);
+}
+
+QString PackBuilder::sourceLineHtml(const QString& table) const
+{
+    // Pages read from a document name it, as the help pages do.
+    const QString citation = m_manifest.tables.value(table).citation;
+    return citation.isEmpty() ? QString() : QStringLiteral("<p class=\"source\">Source: %1</p>\n").arg(citation.toHtmlEscaped());
+}
+
+bool PackBuilder::buildIsolationPage()
+{
+    // The page the isolation tables explain themselves with is the
+    // guidebook's own introduction to Table 1, from the green section.
+    const QString pdfPath = src(QStringLiteral("official/erg2024/TIH_Table.pdf"));
+    import::PdfText pdf;
+    std::vector<import::GuideBlock> blocks;
+    QString why;
+    if (!pdf.open(pdfPath, &why) || !import::readTableIntroduction(pdf, QStringLiteral("HOW TO USE TABLE 1"), QStringLiteral("ISOLATE"), &blocks, &why))
+        return fail(pdfPath, why.section(QStringLiteral(": "), 1));
+    const auto title = std::find_if(blocks.begin(), blocks.end(), [](const import::GuideBlock& b) { return b.kind == import::GuideBlock::Kind::Title; });
+    if (title == blocks.end())
+        return fail(pdfPath, QStringLiteral("the introduction to Table 1 has no heading"));
+    return writePage(QString::fromLatin1(kIsolationPage), title->text, import::introductionBodyHtml(blocks) + sourceLineHtml(QStringLiteral("iso_distances")),
+                     pdfPath);
 }
 
 bool PackBuilder::buildInfoPages()
 {
+    if (!buildIsolationPage())
+        return false;
     static const QRegularExpression heading(QStringLiteral("<h1[^>]*>(.*?)</h1>"), QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression tags(QStringLiteral("<[^>]*>"));
     const QString dir = src(QStringLiteral("src/pages"));
@@ -412,6 +462,19 @@ bool PackBuilder::buildInfoPages()
         QString title = m.captured(1);
         title.remove(tags);
         if (!writePage(QFileInfo(name).completeBaseName(), title, body, dir + QLatin1Char('/') + name))
+            return false;
+    }
+    // Chapters no source gives still open, and say so instead of guessing.
+    QList<ListLine> list;
+    if (!readList(src(QStringLiteral("src/unsourced-pages.txt")), &list))
+        return false;
+    for (const auto& [where, line] : std::as_const(list)) {
+        const QString name = line.section(QLatin1Char('^'), 0, 0), title = line.section(QLatin1Char('^'), 1);
+        if (name.isEmpty() || title.isEmpty())
+            return fail(where, QStringLiteral("expected \"page^title\""));
+        if (QFileInfo::exists(dir + QLatin1Char('/') + name + QStringLiteral(".html")))
+            return fail(where, QStringLiteral("page \"%1\" has a source file in src/pages too").arg(name));
+        if (!writePage(name, title, chapterNotInPackHtml(title), where))
             return false;
     }
     return true;

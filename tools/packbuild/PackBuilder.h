@@ -6,6 +6,7 @@
 #include "model/PackManifest.h"
 
 #include <QHash>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -38,6 +39,9 @@ private:
     bool checkProvenance();
     bool buildGuidePages();
     bool buildInfoPages();
+    bool buildIsolationPage();
+    // "Source: ..." for a page read from the documents of a table.
+    QString sourceLineHtml(const QString& table) const;
     bool buildProvisionPages();
     bool buildArtwork();
     bool writeManifest();
@@ -52,6 +56,13 @@ private:
     QString src(const QString& rel) const;
     QString out(const QString& rel) const;
     bool readText(const QString& path, QString* text);
+    // The lines of a list file that are neither blank nor "#" comments,
+    // each with "file:line" for its error messages.
+    struct ListLine {
+        QString where;
+        QString line;
+    };
+    bool readList(const QString& path, QList<ListLine>* lines);
     bool writeBytes(const QString& rel, const QByteArray& bytes);
 
     QString m_source;

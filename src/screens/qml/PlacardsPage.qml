@@ -3,7 +3,7 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import QOR
 
-// The placard table: touching a placard opens the guide to start from.
+// The placard table; a row opens a guide only when the pack names one for it.
 Page {
     id: page
     objectName: "placardsPage"
@@ -70,16 +70,28 @@ Page {
                 font.pixelSize: 13
                 background: Rectangle { color: QorTheme.sectionBackground }
             }
+            Label {
+                objectName: "placardChartNotice"
+                width: parent.width
+                padding: 10
+                text: placards.chartNotice
+                visible: text.length > 0
+                wrapMode: Text.Wrap
+                color: "white"
+                font.pixelSize: 13
+                background: Rectangle { color: QorTheme.sectionBackground }
+            }
         }
         footer: SourceLine { width: ListView.view.width; text: placards.sourceLine }
         delegate: ItemDelegate {
             id: row
             required property int index
             required property string imageUrl
+            required property string name
             required property string guideId
             width: ListView.view.width
             height: placards.rowHeight
-            Accessible.name: qsTr("Guide %1").arg(guideId)
+            Accessible.name: guideId.length > 0 ? qsTr("%1, guide %2").arg(name).arg(guideId) : name
             highlighted: ListView.isCurrentItem
             onClicked: placards.selectRow(index)
             Keys.onReturnPressed: placards.selectRow(index)
@@ -102,6 +114,19 @@ Page {
                 visible: running
             }
             Label {
+                objectName: "placardName"
+                anchors.left: placardImage.right
+                anchors.leftMargin: 8
+                anchors.right: parent.right
+                anchors.rightMargin: 28
+                anchors.verticalCenter: parent.verticalCenter
+                text: row.name
+                wrapMode: Text.Wrap
+                color: "white"
+                font.pixelSize: 14
+            }
+            Label {
+                visible: row.guideId.length > 0
                 anchors.right: parent.right
                 anchors.rightMargin: 12
                 anchors.verticalCenter: parent.verticalCenter
