@@ -33,7 +33,7 @@ class IncidentFiles {
 public:
     explicit IncidentFiles(int rows)
     {
-        QFile real(QFileInfo(QStringLiteral(__FILE__)).dir().filePath(QStringLiteral("../resources/src/incidents/2024-08.csv")));
+        QFile real(QStringLiteral(QOR_SOURCE_DIR "/resources/src/incidents/2024-08.csv"));
         real.open(QIODevice::ReadOnly);
         const QByteArray header = real.readLine();
         const QList<QByteArray> names = header.trimmed().split(',');
