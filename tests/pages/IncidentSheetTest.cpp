@@ -154,9 +154,8 @@ TEST_F(SheetTest, ZoneCommandWritesTheFigureInTheChosenUnits)
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     EXPECT_TRUE(QString::fromUtf8(f.readAll()).contains("Wind from 270"));
 
-    // No large-spill figures: the file still says why, and the command reports nothing found.
-    EXPECT_EQ(run({ "zone", "1017", "--large", "--svg", svg }), cli::NothingFound);
-    EXPECT_TRUE(errors.contains("not in this data pack"));
+    // Large spills of chlorine come from the container table (Table 3).
+    EXPECT_EQ(run({ "zone", "1017", "--large", "--svg", svg }), cli::Found) << errors.toStdString();
 }
 
 TEST(IncidentSheet, GuidePointsTakeTheFirstItemAfterEachHeading)

@@ -200,7 +200,7 @@ TEST_F(DetailTest, ProtectionTabCellsAndCopyTexts)
 TEST_F(DetailTest, EverySectionInfoButtonOpensAPageOfThePack)
 {
     // The bundled pack is the one the app ships; every page a button names must be in it.
-    const QDir bundled(qEnvironmentVariable("QOR_PACK"));
+    const QDir bundled(QStringLiteral(QOR_DEFAULT_RESOURCES));
     ASSERT_TRUE(bundled.exists(QStringLiteral("NPG.html"))) << qPrintable(bundled.path());
     MaterialViewController c;
     c.setMaterialGuide(material("1005"));

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls
+import QOR
 
 // The line under reference values that names where they come from.
 Label {
