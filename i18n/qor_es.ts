@@ -35,6 +35,64 @@
         <source>Send Feedback</source>
         <translation>Enviar comentarios</translation>
     </message>
+    <message>
+        <source>Sources</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Used for: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not used by this pack&apos;s content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>BarHeader</name>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished">Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>DetailRows</name>
+    <message>
+        <source>About %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hazard Class</source>
+        <translation type="unfinished">Clase de riesgo</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show less</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all %1 statements</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FilterPage</name>
@@ -61,12 +119,36 @@
 <context>
     <name>GuidePage</name>
     <message>
-        <source>Guide %1</source>
-        <translation>Guía %1</translation>
+        <source>Full screen</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Back</source>
-        <translation>Atrás</translation>
+        <source>Share</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave full screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Widen the window to see the isolation distances beside the guide.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Widen the window for a landscape view of the guide.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -77,14 +159,104 @@
     </message>
 </context>
 <context>
-    <name>InfoTitlePage</name>
+    <name>InfoPage</name>
     <message>
         <source>Back</source>
-        <translation>Atrás</translation>
+        <translation type="unfinished">Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>IsolationPage</name>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished">Atrás</translation>
     </message>
     <message>
-        <source>Text size</source>
-        <translation>Tamaño del texto</translation>
+        <source>Isolation Distances</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About isolation distances</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>IsolationTable</name>
+    <message>
+        <source>Protective action zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small spill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Large spill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wind direction compass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wind from (degrees)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save incident sheet (PDF)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open to print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ft/miles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>m/kms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small Spill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Large Spill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First ISOLATE in all Directions for :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Then protect persons Downwind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(Day) :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(Night) :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(Day)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(Night)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -125,12 +297,16 @@
 <context>
     <name>MaterialDetailPage</name>
     <message>
-        <source>Back</source>
-        <translation>Atrás</translation>
+        <source>Summary</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Guide %1</source>
-        <translation>Guía %1</translation>
+        <source>Shipping</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Protection</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -147,6 +323,18 @@
         <source>Change sort order</source>
         <translation>Cambiar el orden</translation>
     </message>
+    <message>
+        <source>Did you mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation type="unfinished">Guía</translation>
+    </message>
+    <message>
+        <source>Suggestion</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PlacardsPage</name>
@@ -155,8 +343,8 @@
         <translation>Atrás</translation>
     </message>
     <message>
-        <source>Guide %1</source>
-        <translation>Guía %1</translation>
+        <source>%1, guide %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -862,10 +1050,6 @@
         <translation>%1 incidente%2</translation>
     </message>
     <message>
-        <source>Table of markings, labels and placards and initial response guide to use on-scene. USE THIS TABLE ONLY IF MATERIALS CANNOT BE SPECIFICALLY IDENTIFIED BY USING THE SHIPPING DOCUMENT, NUMBERED PLACARD, OR ORANGE PANEL NUMBER</source>
-        <translation>Tabla de marcas, etiquetas y carteles y guía de respuesta inicial para usar en el lugar. USE ESTA TABLA SOLO SI NO PUEDE IDENTIFICAR LOS MATERIALES CON EL DOCUMENTO DE EMBARQUE, EL CARTEL NUMERADO O EL NÚMERO DEL PANEL NARANJA</translation>
-    </message>
-    <message>
         <source>ID Number Index (yellow pages)</source>
         <translation>Índice por número de identificación (páginas amarillas)</translation>
     </message>
@@ -897,12 +1081,355 @@
         <source>UN%1</source>
         <translation>ONU%1</translation>
     </message>
-</context>
-<context>
-    <name>QorTheme</name>
     <message>
-        <source>Sample data — not for operational use</source>
-        <translation>Datos de muestra — no aptos para uso operativo</translation>
+        <source>The guidebook&apos;s index does not list UN%1; shown from the shipping table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guide: not in this data pack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Guide of the index&apos;s row &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source: unknown (unverified data pack)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source: not recorded in this data pack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From a partial extract of %1 reports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From a partial extract of %1 reports, %2 to %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unverified data pack — sources unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rail Tank Car</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Highway Tank Car or Trailer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Agricultural Nurse Tank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiple Small Cylinders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiple ton cylinders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiple Small Cylinders or single ton cylinder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: isolate %2 in all directions; protect downwind by day %3, by night %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small spill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Large spill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>low wind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>moderate wind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>high wind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Large spill, %1: isolate %2; by day %3; by night %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not in this data pack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sheet made %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prepared by: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data pack: %1 (built %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data pack: not identified (no pack.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The zone figure is schematic, not a map. Check the guide and the current situation.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ISOLATION AND PROTECTIVE ACTION DISTANCES</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Isolation distances: not in this data pack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GUIDE %1 (first points; read the whole guide)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GUIDE: not in this data pack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(continued in the guide)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>more than %1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Low wind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moderate wind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>High wind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>night</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No condition &quot;%1&quot; for this material</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Container row &quot;%1&quot; is incomplete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Large spill distances: not in this data pack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small spill distances: not in this data pack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distances &quot;%1&quot; and &quot;%2&quot; cannot be drawn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When spilled in water: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Condition: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wind from %1°</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Isolate %1 in all directions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Protect persons downwind for %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The zone may reach further: it is not closed on the far side.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Schematic, not a map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The guide could not be saved as a PDF for printing (%1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The guide was saved as a PDF and opened in your PDF viewer, which can print it:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The guide was saved as a PDF; open it to print it:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Isolation Distances</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TIH Gases Produced:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TIH Gas Produced:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Low wind (&lt; 10 km/h):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moderate wind (10-20 km/h):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>High wind (&gt; 20 km/h):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Low wind (&lt; 6 mph):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moderate wind (6-12 mph):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>High wind (&gt; 12 mph):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 found: this data pack has no materials in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hazard Class</source>
+        <translation type="unfinished">Clase de riesgo</translation>
+    </message>
+    <message>
+        <source>NFPA 704</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Physical Description:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Synonyms/Trade Names:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exposure/Protection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished">Atrás</translation>
+    </message>
+    <message>
+        <source>Table of markings, labels and placards</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The guidebook&apos;s placard chart, which names the initial response guide for each placard, is not in this data pack. Identify the material by the shipping document, numbered placard or orange panel number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (guide %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The guidebook&apos;s index lists this explosive by its division only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Special Provisions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reported Incidents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shipping Regulations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>International</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Domestic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: isolate %2 %3 in all directions, protect downwind %4 %5; wind from %6°</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: cannot create the folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved to %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -910,6 +1437,17 @@
     <message>
         <source>Placards</source>
         <translation>Carteles</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished">Acerca de</translation>
+    </message>
+</context>
+<context>
+    <name>RegulationPage</name>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished">Atrás</translation>
     </message>
 </context>
 <context>
@@ -933,6 +1471,24 @@
     <message>
         <source>Open %1</source>
         <translation>Abrir %1</translation>
+    </message>
+</context>
+<context>
+    <name>ShippingEntryPage</name>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished">Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>TextSizeButton</name>
+    <message>
+        <source>Text size</source>
+        <translation type="unfinished">Tamaño del texto</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation type="unfinished">Listo</translation>
     </message>
 </context>
 </TS>
