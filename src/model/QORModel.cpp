@@ -625,7 +625,7 @@ const QORModel::SharedOrders& QORModel::sharedOrders()
 {
     if (m_sharedOrders && m_sharedOrders->count == materials.size())
         return *m_sharedOrders;
-    SharedOrders& orders = m_sharedOrders.emplace();
+    SharedOrders& orders = m_sharedOrders.emplace(SharedOrders{});
     const int n = int(materials.size());
     orders.count = n;
     // Sort keys computed once per material rather than in every comparison.
@@ -641,7 +641,9 @@ const QORModel::SharedOrders& QORModel::sharedOrders()
         std::vector<int> order(static_cast<size_t>(n));
         if (n == 0)
             return order;
-        const auto [low, high] = std::minmax_element(key.begin(), key.end());
+        // Plain iterators, not a structured binding: lambdas below use them.
+        const auto bounds = std::minmax_element(key.begin(), key.end());
+        const auto low = bounds.first, high = bounds.second;
         const qint64 range = qint64(*high) - qint64(*low) + 1;
         if (range > 4 * qint64(n) + 1024) {
             for (int i = 0; i < n; ++i)
