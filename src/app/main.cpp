@@ -223,6 +223,7 @@ int main(int argc, char** argv)
     QCommandLineOption firstFrame(QStringLiteral("exit-after-first-frame"), QStringLiteral("Quit after the first frame."));
     QCommandLineOption emptyWindow(QStringLiteral("empty-window"), QStringLiteral("Show an empty window (start-up baseline)."));
     // Reaching the detail screens for screenshots.
+    QCommandLineOption sortOrder(QStringLiteral("sort"), QStringLiteral("Show the material list in sort order N (0 name ... 3 guide)."), QStringLiteral("N"));
     QCommandLineOption detailTab(QStringLiteral("detail-tab"), QStringLiteral("Show tab N of the material opened by a link."), QStringLiteral("N"));
     QCommandLineOption openScreen(QStringLiteral("open-screen"), QStringLiteral("Open isolation, zone or guide for the material opened by a link."), QStringLiteral("NAME"));
     QCommandLineOption appearance(QStringLiteral("appearance"), QStringLiteral("Use the light or dark appearance."), QStringLiteral("light|dark"));
@@ -231,7 +232,7 @@ int main(int argc, char** argv)
     firstFrame.setFlags(QCommandLineOption::HiddenFromHelp);
     emptyWindow.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOptions({ version, resources, dataDir, openTab, openPlacards, lang, formFactor, selfTest, screenshot, screenshotDelay,
-                        size, firstFrame, emptyWindow, detailTab, openScreen, appearance, quitFrom });
+                        size, firstFrame, emptyWindow, detailTab, openScreen, appearance, quitFrom, sortOrder });
     parser.addPositionalArgument(QStringLiteral("links"), QStringLiteral("qor://search?q=TEXT or qor://chemical?un=NUMBER"), QStringLiteral("[links...]"));
     parser.process(app);
 
@@ -317,6 +318,16 @@ int main(int argc, char** argv)
     if (parser.isSet(openPlacards))
         QMetaObject::invokeMethod(engine.rootObjects().first(), "openPlacards");
     openWhenLoaded(links);
+    if (parser.isSet(sortOrder))
+        whenModelLoaded([sort = parser.value(sortOrder).toInt()] {
+            QORModel* model = QORModel::sharedInstance();
+            if (!model->currentFilter || sort < 0 || sort > 3)
+                return;
+            // The sort button's own step, so the button shows the order's image.
+            while (model->currentFilter->sortType != sort)
+                model->currentFilter->nextSortType();
+            emit model->filterChanged(model->currentFilter.get());
+        });
     if (window && (parser.isSet(detailTab) || parser.isSet(openScreen))) {
         QTimer::singleShot(800, window, [window, tab = parser.value(detailTab), screen = parser.value(openScreen)] {
             QObject* detail = window->findChild<QObject*>(QStringLiteral("materialDetail"));
