@@ -77,7 +77,7 @@ Page {
                 text: placards.chartNotice
                 visible: text.length > 0
                 wrapMode: Text.Wrap
-                color: "white"
+                color: QorTheme.sectionText
                 font.pixelSize: 13
                 background: Rectangle { color: QorTheme.sectionBackground }
             }
@@ -122,7 +122,7 @@ Page {
                 anchors.verticalCenter: parent.verticalCenter
                 text: row.name
                 wrapMode: Text.Wrap
-                color: "white"
+                color: QorTheme.pageText
                 font.pixelSize: 14
             }
             Label {

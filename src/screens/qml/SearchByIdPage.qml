@@ -75,7 +75,7 @@ Page {
             visible: text !== ""
             text: search.note
             wrapMode: Text.WordWrap
-            color: "#e0e0e0"
+            color: QorTheme.secondaryText
         }
 
         ItemDelegate {
