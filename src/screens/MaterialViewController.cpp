@@ -38,7 +38,8 @@ QStringList materialOverviewTables()
 QVariantMap materialOverviewRow(Material& m)
 {
     QORModel* model = QORModel::sharedInstance();
-    const QString unText = L::tr("UN%1").arg(m.unId);
+    // The guidebook's explosives rows carry no number; it prints a dash.
+    const QString unText = m.unId.isEmpty() ? QStringLiteral("—") : L::tr("UN%1").arg(m.unId);
     const QString hazardClass = model->classForMaterial(m);
     const QString description = model->classDescriptionForMaterial(m).value_or(QString());
     return {

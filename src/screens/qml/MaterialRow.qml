@@ -37,7 +37,8 @@ ItemDelegate {
                 elide: Text.ElideRight
             }
             Label {
-                text: "UN" + row.unId
+                // Explosives rows of the guidebook's index have no number.
+                text: row.unId.length > 0 ? "UN" + row.unId : "—"
                 color: QorTheme.accentText
                 font.bold: true
                 font.pixelSize: 13
