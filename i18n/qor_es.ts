@@ -37,61 +37,61 @@
     </message>
     <message>
         <source>Sources</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuentes</translation>
     </message>
     <message>
         <source>Used for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Usado para: %1</translation>
     </message>
     <message>
         <source>Not used by this pack&apos;s content</source>
-        <translation type="unfinished"></translation>
+        <translation>No usado por el contenido de este paquete</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Apariencia</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscuro</translation>
     </message>
 </context>
 <context>
     <name>BarHeader</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Atrás</translation>
+        <translation>Atrás</translation>
     </message>
 </context>
 <context>
     <name>DetailRows</name>
     <message>
         <source>About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de %1</translation>
     </message>
     <message>
         <source>Hazard Class</source>
-        <translation type="unfinished">Clase de riesgo</translation>
+        <translation>Clase de riesgo</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Show less</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar menos</translation>
     </message>
     <message>
         <source>Show all %1 statements</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar las %1 indicaciones</translation>
     </message>
 </context>
 <context>
@@ -120,35 +120,35 @@
     <name>GuidePage</name>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pantalla completa</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Compartir</translation>
     </message>
     <message>
         <source>Email</source>
-        <translation type="unfinished"></translation>
+        <translation>Correo electrónico</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Leave full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir de pantalla completa</translation>
     </message>
     <message>
         <source>Widen the window to see the isolation distances beside the guide.</source>
-        <translation type="unfinished"></translation>
+        <translation>Amplíe la ventana para ver las distancias de aislamiento junto a la guía.</translation>
     </message>
     <message>
         <source>Widen the window for a landscape view of the guide.</source>
-        <translation type="unfinished"></translation>
+        <translation>Amplíe la ventana para ver la guía en horizontal.</translation>
     </message>
 </context>
 <context>
@@ -162,101 +162,101 @@
     <name>InfoPage</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Atrás</translation>
+        <translation>Atrás</translation>
     </message>
 </context>
 <context>
     <name>IsolationPage</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Atrás</translation>
+        <translation>Atrás</translation>
     </message>
     <message>
         <source>Isolation Distances</source>
-        <translation type="unfinished"></translation>
+        <translation>Distancias de aislamiento</translation>
     </message>
     <message>
         <source>About isolation distances</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de las distancias de aislamiento</translation>
     </message>
 </context>
 <context>
     <name>IsolationTable</name>
     <message>
         <source>Protective action zone</source>
-        <translation type="unfinished"></translation>
+        <translation>Zona de acción de protección</translation>
     </message>
     <message>
         <source>Small spill</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrame pequeño</translation>
     </message>
     <message>
         <source>Large spill</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrame grande</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Día</translation>
     </message>
     <message>
         <source>Night</source>
-        <translation type="unfinished"></translation>
+        <translation>Noche</translation>
     </message>
     <message>
         <source>Wind direction compass</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosa de los vientos</translation>
     </message>
     <message>
         <source>Wind from (degrees)</source>
-        <translation type="unfinished"></translation>
+        <translation>Viento desde (grados)</translation>
     </message>
     <message>
         <source>Save incident sheet (PDF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar hoja de incidente (PDF)</translation>
     </message>
     <message>
         <source>Open to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir para imprimir</translation>
     </message>
     <message>
         <source>ft/miles</source>
-        <translation type="unfinished"></translation>
+        <translation>pies/millas</translation>
     </message>
     <message>
         <source>m/kms</source>
-        <translation type="unfinished"></translation>
+        <translation>m/km</translation>
     </message>
     <message>
         <source>Small Spill</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrame pequeño</translation>
     </message>
     <message>
         <source>Large Spill</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrame grande</translation>
     </message>
     <message>
         <source>First ISOLATE in all Directions for :</source>
-        <translation type="unfinished"></translation>
+        <translation>Primero AISLAR en todas las direcciones:</translation>
     </message>
     <message>
         <source>Then protect persons Downwind</source>
-        <translation type="unfinished"></translation>
+        <translation>Después proteger a las personas a favor del viento</translation>
     </message>
     <message>
         <source>(Day) :</source>
-        <translation type="unfinished"></translation>
+        <translation>(Día):</translation>
     </message>
     <message>
         <source>(Night) :</source>
-        <translation type="unfinished"></translation>
+        <translation>(Noche):</translation>
     </message>
     <message>
         <source>(Day)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Día)</translation>
     </message>
     <message>
         <source>(Night)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Noche)</translation>
     </message>
 </context>
 <context>
@@ -298,15 +298,15 @@
     <name>MaterialDetailPage</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumen</translation>
     </message>
     <message>
         <source>Shipping</source>
-        <translation type="unfinished"></translation>
+        <translation>Embarque</translation>
     </message>
     <message>
         <source>Protection</source>
-        <translation type="unfinished"></translation>
+        <translation>Protección</translation>
     </message>
 </context>
 <context>
@@ -325,15 +325,15 @@
     </message>
     <message>
         <source>Did you mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Quiso decir</translation>
     </message>
     <message>
         <source>Guide</source>
-        <translation type="unfinished">Guía</translation>
+        <translation>Guía</translation>
     </message>
     <message>
         <source>Suggestion</source>
-        <translation type="unfinished"></translation>
+        <translation>Sugerencia</translation>
     </message>
 </context>
 <context>
@@ -344,7 +344,7 @@
     </message>
     <message>
         <source>%1, guide %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, guía %2</translation>
     </message>
 </context>
 <context>
@@ -1083,353 +1083,355 @@
     </message>
     <message>
         <source>The guidebook&apos;s index does not list UN%1; shown from the shipping table.</source>
-        <translation type="unfinished"></translation>
+        <translation>El índice de la guía no incluye ONU%1; se muestra a partir de la tabla de embarque.</translation>
     </message>
     <message>
         <source>Guide: not in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Guía: no está en este paquete de datos</translation>
     </message>
     <message>
         <source>Guide of the index&apos;s row &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Guía de la fila «%1» del índice</translation>
     </message>
     <message>
         <source>0 found</source>
-        <translation type="unfinished"></translation>
+        <translation>0 encontrados</translation>
     </message>
     <message>
         <source>Source: unknown (unverified data pack)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente: desconocida (paquete de datos no verificado)</translation>
     </message>
     <message>
         <source>Source: not recorded in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente: no registrada en este paquete de datos</translation>
     </message>
     <message>
         <source>Source: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente: %1</translation>
     </message>
     <message>
         <source>From a partial extract of %1 reports</source>
-        <translation type="unfinished"></translation>
+        <translation>De un extracto parcial de %1 informes</translation>
     </message>
     <message>
         <source>From a partial extract of %1 reports, %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>De un extracto parcial de %1 informes, del %2 al %3</translation>
     </message>
     <message>
         <source>Unverified data pack — sources unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquete de datos no verificado — fuentes desconocidas</translation>
     </message>
     <message>
         <source>Rail Tank Car</source>
-        <translation type="unfinished"></translation>
+        <translation>Carro tanque de ferrocarril</translation>
     </message>
     <message>
         <source>Highway Tank Car or Trailer</source>
-        <translation type="unfinished"></translation>
+        <translation>Autotanque o remolque cisterna</translation>
     </message>
     <message>
         <source>Agricultural Nurse Tank</source>
-        <translation type="unfinished"></translation>
+        <translation>Tanque nodriza agrícola</translation>
     </message>
     <message>
         <source>Multiple Small Cylinders</source>
-        <translation type="unfinished"></translation>
+        <translation>Varios cilindros pequeños</translation>
     </message>
     <message>
         <source>Multiple ton cylinders</source>
-        <translation type="unfinished"></translation>
+        <translation>Varios cilindros de una tonelada</translation>
     </message>
     <message>
         <source>Multiple Small Cylinders or single ton cylinder</source>
-        <translation type="unfinished"></translation>
+        <translation>Varios cilindros pequeños o un cilindro de una tonelada</translation>
     </message>
     <message>
         <source>%1: isolate %2 in all directions; protect downwind by day %3, by night %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: aislar %2 en todas las direcciones; proteger a favor del viento de día %3, de noche %4</translation>
     </message>
     <message>
         <source>Small spill</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrame pequeño</translation>
     </message>
     <message>
         <source>Large spill</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrame grande</translation>
     </message>
     <message>
         <source>low wind</source>
-        <translation type="unfinished"></translation>
+        <translation>viento bajo</translation>
     </message>
     <message>
         <source>moderate wind</source>
-        <translation type="unfinished"></translation>
+        <translation>viento moderado</translation>
     </message>
     <message>
         <source>high wind</source>
-        <translation type="unfinished"></translation>
+        <translation>viento fuerte</translation>
     </message>
     <message>
         <source>Large spill, %1: isolate %2; by day %3; by night %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrame grande, %1: aislar %2; de día %3; de noche %4</translation>
     </message>
     <message>
         <source>Class</source>
-        <translation type="unfinished"></translation>
+        <translation>Clase</translation>
     </message>
     <message>
         <source>not in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>no está en este paquete de datos</translation>
     </message>
     <message>
         <source>Sheet made %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja elaborada el %1</translation>
     </message>
     <message>
         <source>Prepared by: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparada por: %1</translation>
     </message>
     <message>
         <source>Data pack: %1 (built %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquete de datos: %1 (generado el %2)</translation>
     </message>
     <message>
         <source>Data pack: not identified (no pack.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquete de datos: sin identificar (no hay pack.json)</translation>
     </message>
     <message>
         <source>The zone figure is schematic, not a map. Check the guide and the current situation.</source>
-        <translation type="unfinished"></translation>
+        <translation>La figura de la zona es esquemática, no es un mapa. Consulte la guía y la situación actual.</translation>
     </message>
     <message>
         <source>ISOLATION AND PROTECTIVE ACTION DISTANCES</source>
-        <translation type="unfinished"></translation>
+        <translation>DISTANCIAS DE AISLAMIENTO Y DE ACCIÓN DE PROTECCIÓN</translation>
     </message>
     <message>
         <source>Isolation distances: not in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Distancias de aislamiento: no están en este paquete de datos</translation>
     </message>
     <message>
         <source>GUIDE %1 (first points; read the whole guide)</source>
-        <translation type="unfinished"></translation>
+        <translation>GUÍA %1 (primeros puntos; lea la guía completa)</translation>
     </message>
     <message>
         <source>GUIDE: not in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>GUÍA: no está en este paquete de datos</translation>
     </message>
     <message>
         <source>(continued in the guide)</source>
-        <translation type="unfinished"></translation>
+        <translation>(continúa en la guía)</translation>
     </message>
     <message>
         <source>more than %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>más de %1 %2</translation>
     </message>
     <message>
         <source>Low wind</source>
-        <translation type="unfinished"></translation>
+        <translation>Viento bajo</translation>
     </message>
     <message>
         <source>Moderate wind</source>
-        <translation type="unfinished"></translation>
+        <translation>Viento moderado</translation>
     </message>
     <message>
         <source>High wind</source>
-        <translation type="unfinished"></translation>
+        <translation>Viento fuerte</translation>
     </message>
     <message>
         <source>night</source>
-        <translation type="unfinished"></translation>
+        <translation>noche</translation>
     </message>
     <message>
         <source>No condition &quot;%1&quot; for this material</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe la condición «%1» para este material</translation>
     </message>
     <message>
         <source>Container row &quot;%1&quot; is incomplete</source>
-        <translation type="unfinished"></translation>
+        <translation>La fila de contenedor «%1» está incompleta</translation>
     </message>
     <message>
         <source>Large spill distances: not in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Distancias para derrame grande: no están en este paquete de datos</translation>
     </message>
     <message>
         <source>Small spill distances: not in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Distancias para derrame pequeño: no están en este paquete de datos</translation>
     </message>
     <message>
         <source>Distances &quot;%1&quot; and &quot;%2&quot; cannot be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden dibujar las distancias «%1» y «%2»</translation>
     </message>
     <message>
         <source>When spilled in water: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Si se derrama en agua: %1</translation>
     </message>
     <message>
         <source>Condition: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Condición: %1</translation>
     </message>
     <message>
         <source>Wind from %1°</source>
-        <translation type="unfinished"></translation>
+        <translation>Viento desde %1°</translation>
     </message>
     <message>
         <source>Isolate %1 in all directions</source>
-        <translation type="unfinished"></translation>
+        <translation>Aislar %1 en todas las direcciones</translation>
     </message>
     <message>
         <source>Protect persons downwind for %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Proteger a las personas a favor del viento en %1 (%2)</translation>
     </message>
     <message>
         <source>The zone may reach further: it is not closed on the far side.</source>
-        <translation type="unfinished"></translation>
+        <translation>La zona puede extenderse más allá: no está cerrada en el extremo lejano.</translation>
     </message>
     <message>
         <source>Schematic, not a map</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquemático, no es un mapa</translation>
     </message>
     <message>
         <source>The guide could not be saved as a PDF for printing (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar la guía como PDF para imprimirla (%1).</translation>
     </message>
     <message>
         <source>The guide was saved as a PDF and opened in your PDF viewer, which can print it:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La guía se guardó como PDF y se abrió en su visor de PDF, desde el que puede imprimirla:
+%1</translation>
     </message>
     <message>
         <source>The guide was saved as a PDF; open it to print it:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La guía se guardó como PDF; ábrala para imprimirla:
+%1</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Isolation Distances</source>
-        <translation type="unfinished"></translation>
+        <translation>Distancias de aislamiento</translation>
     </message>
     <message>
         <source>TIH Gases Produced:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gases RIT producidos:</translation>
     </message>
     <message>
         <source>TIH Gas Produced:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gas RIT producido:</translation>
     </message>
     <message>
         <source>Low wind (&lt; 10 km/h):</source>
-        <translation type="unfinished"></translation>
+        <translation>Viento bajo (&lt; 10 km/h):</translation>
     </message>
     <message>
         <source>Moderate wind (10-20 km/h):</source>
-        <translation type="unfinished"></translation>
+        <translation>Viento moderado (10-20 km/h):</translation>
     </message>
     <message>
         <source>High wind (&gt; 20 km/h):</source>
-        <translation type="unfinished"></translation>
+        <translation>Viento fuerte (&gt; 20 km/h):</translation>
     </message>
     <message>
         <source>Low wind (&lt; 6 mph):</source>
-        <translation type="unfinished"></translation>
+        <translation>Viento bajo (&lt; 6 mph):</translation>
     </message>
     <message>
         <source>Moderate wind (6-12 mph):</source>
-        <translation type="unfinished"></translation>
+        <translation>Viento moderado (6-12 mph):</translation>
     </message>
     <message>
         <source>High wind (&gt; 12 mph):</source>
-        <translation type="unfinished"></translation>
+        <translation>Viento fuerte (&gt; 12 mph):</translation>
     </message>
     <message>
         <source>0 found: this data pack has no materials in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>0 encontrados: este paquete de datos no tiene materiales en %1</translation>
     </message>
     <message>
         <source>Hazard Class</source>
-        <translation type="unfinished">Clase de riesgo</translation>
+        <translation>Clase de riesgo</translation>
     </message>
     <message>
         <source>NFPA 704</source>
-        <translation type="unfinished"></translation>
+        <translation>NFPA 704</translation>
     </message>
     <message>
         <source>Note:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nota:</translation>
     </message>
     <message>
         <source>Physical Description:</source>
-        <translation type="unfinished"></translation>
+        <translation>Descripción física:</translation>
     </message>
     <message>
         <source>Synonyms/Trade Names:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinónimos/nombres comerciales:</translation>
     </message>
     <message>
         <source>Exposure/Protection</source>
-        <translation type="unfinished"></translation>
+        <translation>Exposición/protección</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Atrás</translation>
+        <translation>Atrás</translation>
     </message>
     <message>
         <source>Table of markings, labels and placards</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla de marcas, etiquetas y carteles</translation>
     </message>
     <message>
         <source>The guidebook&apos;s placard chart, which names the initial response guide for each placard, is not in this data pack. Identify the material by the shipping document, numbered placard or orange panel number.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla de carteles de la guía, que indica la guía de respuesta inicial para cada cartel, no está en este paquete de datos. Identifique el material por el documento de embarque, el cartel numerado o el número del panel naranja.</translation>
     </message>
     <message>
         <source>%1 (guide %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (guía %2)</translation>
     </message>
     <message>
         <source>The guidebook&apos;s index lists this explosive by its division only.</source>
-        <translation type="unfinished"></translation>
+        <translation>El índice de la guía solo incluye este explosivo por su división.</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Special Provisions</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposiciones especiales</translation>
     </message>
     <message>
         <source>Reported Incidents</source>
-        <translation type="unfinished"></translation>
+        <translation>Incidentes notificados</translation>
     </message>
     <message>
         <source>Shipping Regulations</source>
-        <translation type="unfinished"></translation>
+        <translation>Normativa de embarque</translation>
     </message>
     <message>
         <source>International</source>
-        <translation type="unfinished"></translation>
+        <translation>Internacional</translation>
     </message>
     <message>
         <source>Domestic</source>
-        <translation type="unfinished"></translation>
+        <translation>Nacional</translation>
     </message>
     <message>
         <source>%1: isolate %2 %3 in all directions, protect downwind %4 %5; wind from %6°</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: aislar %2 %3 en todas las direcciones, proteger a favor del viento %4 %5; viento desde %6°</translation>
     </message>
     <message>
         <source>%1: cannot create the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: no se puede crear la carpeta</translation>
     </message>
     <message>
         <source>Saved to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado en %1</translation>
     </message>
 </context>
 <context>
@@ -1440,14 +1442,14 @@
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished">Acerca de</translation>
+        <translation>Acerca de</translation>
     </message>
 </context>
 <context>
     <name>RegulationPage</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Atrás</translation>
+        <translation>Atrás</translation>
     </message>
 </context>
 <context>
@@ -1477,18 +1479,18 @@
     <name>ShippingEntryPage</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Atrás</translation>
+        <translation>Atrás</translation>
     </message>
 </context>
 <context>
     <name>TextSizeButton</name>
     <message>
         <source>Text size</source>
-        <translation type="unfinished">Tamaño del texto</translation>
+        <translation>Tamaño del texto</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished">Listo</translation>
+        <translation>Listo</translation>
     </message>
 </context>
 </TS>

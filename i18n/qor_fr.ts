@@ -37,61 +37,61 @@
     </message>
     <message>
         <source>Sources</source>
-        <translation type="unfinished"></translation>
+        <translation>Sources</translation>
     </message>
     <message>
         <source>Used for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisé pour : %1</translation>
     </message>
     <message>
         <source>Not used by this pack&apos;s content</source>
-        <translation type="unfinished"></translation>
+        <translation>Non utilisé par le contenu de ce paquet</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparence</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Système</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Clair</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombre</translation>
     </message>
 </context>
 <context>
     <name>BarHeader</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Retour</translation>
+        <translation>Retour</translation>
     </message>
 </context>
 <context>
     <name>DetailRows</name>
     <message>
         <source>About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de %1</translation>
     </message>
     <message>
         <source>Hazard Class</source>
-        <translation type="unfinished">Classe de danger</translation>
+        <translation>Classe de danger</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Show less</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher moins</translation>
     </message>
     <message>
         <source>Show all %1 statements</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les %1 mentions</translation>
     </message>
 </context>
 <context>
@@ -120,35 +120,35 @@
     <name>GuidePage</name>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Plein écran</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Partager</translation>
     </message>
     <message>
         <source>Email</source>
-        <translation type="unfinished"></translation>
+        <translation>E-mail</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Leave full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter le plein écran</translation>
     </message>
     <message>
         <source>Widen the window to see the isolation distances beside the guide.</source>
-        <translation type="unfinished"></translation>
+        <translation>Élargissez la fenêtre pour voir les distances d&apos;isolement à côté du guide.</translation>
     </message>
     <message>
         <source>Widen the window for a landscape view of the guide.</source>
-        <translation type="unfinished"></translation>
+        <translation>Élargissez la fenêtre pour afficher le guide en mode paysage.</translation>
     </message>
 </context>
 <context>
@@ -162,101 +162,101 @@
     <name>InfoPage</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Retour</translation>
+        <translation>Retour</translation>
     </message>
 </context>
 <context>
     <name>IsolationPage</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Retour</translation>
+        <translation>Retour</translation>
     </message>
     <message>
         <source>Isolation Distances</source>
-        <translation type="unfinished"></translation>
+        <translation>Distances d&apos;isolement</translation>
     </message>
     <message>
         <source>About isolation distances</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos des distances d&apos;isolement</translation>
     </message>
 </context>
 <context>
     <name>IsolationTable</name>
     <message>
         <source>Protective action zone</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone de mesures de protection</translation>
     </message>
     <message>
         <source>Small spill</source>
-        <translation type="unfinished"></translation>
+        <translation>Petit déversement</translation>
     </message>
     <message>
         <source>Large spill</source>
-        <translation type="unfinished"></translation>
+        <translation>Grand déversement</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Jour</translation>
     </message>
     <message>
         <source>Night</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuit</translation>
     </message>
     <message>
         <source>Wind direction compass</source>
-        <translation type="unfinished"></translation>
+        <translation>Rose des vents</translation>
     </message>
     <message>
         <source>Wind from (degrees)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent venant de (degrés)</translation>
     </message>
     <message>
         <source>Save incident sheet (PDF)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la fiche d&apos;incident (PDF)</translation>
     </message>
     <message>
         <source>Open to print</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir pour imprimer</translation>
     </message>
     <message>
         <source>ft/miles</source>
-        <translation type="unfinished"></translation>
+        <translation>pieds/milles</translation>
     </message>
     <message>
         <source>m/kms</source>
-        <translation type="unfinished"></translation>
+        <translation>m/km</translation>
     </message>
     <message>
         <source>Small Spill</source>
-        <translation type="unfinished"></translation>
+        <translation>Petit déversement</translation>
     </message>
     <message>
         <source>Large Spill</source>
-        <translation type="unfinished"></translation>
+        <translation>Grand déversement</translation>
     </message>
     <message>
         <source>First ISOLATE in all Directions for :</source>
-        <translation type="unfinished"></translation>
+        <translation>D&apos;abord ISOLER dans toutes les directions sur :</translation>
     </message>
     <message>
         <source>Then protect persons Downwind</source>
-        <translation type="unfinished"></translation>
+        <translation>Puis protéger les personnes sous le vent</translation>
     </message>
     <message>
         <source>(Day) :</source>
-        <translation type="unfinished"></translation>
+        <translation>(Jour) :</translation>
     </message>
     <message>
         <source>(Night) :</source>
-        <translation type="unfinished"></translation>
+        <translation>(Nuit) :</translation>
     </message>
     <message>
         <source>(Day)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Jour)</translation>
     </message>
     <message>
         <source>(Night)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Nuit)</translation>
     </message>
 </context>
 <context>
@@ -298,15 +298,15 @@
     <name>MaterialDetailPage</name>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Résumé</translation>
     </message>
     <message>
         <source>Shipping</source>
-        <translation type="unfinished"></translation>
+        <translation>Expédition</translation>
     </message>
     <message>
         <source>Protection</source>
-        <translation type="unfinished"></translation>
+        <translation>Protection</translation>
     </message>
 </context>
 <context>
@@ -325,15 +325,15 @@
     </message>
     <message>
         <source>Did you mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Vouliez-vous dire</translation>
     </message>
     <message>
         <source>Guide</source>
-        <translation type="unfinished">Guide</translation>
+        <translation>Guide</translation>
     </message>
     <message>
         <source>Suggestion</source>
-        <translation type="unfinished"></translation>
+        <translation>Suggestion</translation>
     </message>
 </context>
 <context>
@@ -344,7 +344,7 @@
     </message>
     <message>
         <source>%1, guide %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, guide %2</translation>
     </message>
 </context>
 <context>
@@ -1083,353 +1083,355 @@
     </message>
     <message>
         <source>The guidebook&apos;s index does not list UN%1; shown from the shipping table.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;index du guide ne répertorie pas ONU%1 ; affiché d&apos;après le tableau d&apos;expédition.</translation>
     </message>
     <message>
         <source>Guide: not in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Guide : absent de ce paquet de données</translation>
     </message>
     <message>
         <source>Guide of the index&apos;s row &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Guide de la ligne « %1 » de l&apos;index</translation>
     </message>
     <message>
         <source>0 found</source>
-        <translation type="unfinished"></translation>
+        <translation>0 trouvé</translation>
     </message>
     <message>
         <source>Source: unknown (unverified data pack)</source>
-        <translation type="unfinished"></translation>
+        <translation>Source : inconnue (paquet de données non vérifié)</translation>
     </message>
     <message>
         <source>Source: not recorded in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Source : non enregistrée dans ce paquet de données</translation>
     </message>
     <message>
         <source>Source: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Source : %1</translation>
     </message>
     <message>
         <source>From a partial extract of %1 reports</source>
-        <translation type="unfinished"></translation>
+        <translation>D&apos;après un extrait partiel de %1 rapports</translation>
     </message>
     <message>
         <source>From a partial extract of %1 reports, %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>D&apos;après un extrait partiel de %1 rapports, du %2 au %3</translation>
     </message>
     <message>
         <source>Unverified data pack — sources unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquet de données non vérifié — sources inconnues</translation>
     </message>
     <message>
         <source>Rail Tank Car</source>
-        <translation type="unfinished"></translation>
+        <translation>Wagon-citerne</translation>
     </message>
     <message>
         <source>Highway Tank Car or Trailer</source>
-        <translation type="unfinished"></translation>
+        <translation>Camion-citerne ou remorque-citerne</translation>
     </message>
     <message>
         <source>Agricultural Nurse Tank</source>
-        <translation type="unfinished"></translation>
+        <translation>Réservoir nourrice agricole</translation>
     </message>
     <message>
         <source>Multiple Small Cylinders</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs petites bouteilles</translation>
     </message>
     <message>
         <source>Multiple ton cylinders</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs bouteilles d&apos;une tonne</translation>
     </message>
     <message>
         <source>Multiple Small Cylinders or single ton cylinder</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs petites bouteilles ou une seule bouteille d&apos;une tonne</translation>
     </message>
     <message>
         <source>%1: isolate %2 in all directions; protect downwind by day %3, by night %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : isoler %2 dans toutes les directions ; protéger sous le vent le jour %3, la nuit %4</translation>
     </message>
     <message>
         <source>Small spill</source>
-        <translation type="unfinished"></translation>
+        <translation>Petit déversement</translation>
     </message>
     <message>
         <source>Large spill</source>
-        <translation type="unfinished"></translation>
+        <translation>Grand déversement</translation>
     </message>
     <message>
         <source>low wind</source>
-        <translation type="unfinished"></translation>
+        <translation>vent faible</translation>
     </message>
     <message>
         <source>moderate wind</source>
-        <translation type="unfinished"></translation>
+        <translation>vent modéré</translation>
     </message>
     <message>
         <source>high wind</source>
-        <translation type="unfinished"></translation>
+        <translation>vent fort</translation>
     </message>
     <message>
         <source>Large spill, %1: isolate %2; by day %3; by night %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Grand déversement, %1 : isoler %2 ; le jour %3 ; la nuit %4</translation>
     </message>
     <message>
         <source>Class</source>
-        <translation type="unfinished"></translation>
+        <translation>Classe</translation>
     </message>
     <message>
         <source>not in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>absent de ce paquet de données</translation>
     </message>
     <message>
         <source>Sheet made %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fiche établie le %1</translation>
     </message>
     <message>
         <source>Prepared by: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Préparée par : %1</translation>
     </message>
     <message>
         <source>Data pack: %1 (built %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquet de données : %1 (généré le %2)</translation>
     </message>
     <message>
         <source>Data pack: not identified (no pack.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Paquet de données : non identifié (pas de pack.json)</translation>
     </message>
     <message>
         <source>The zone figure is schematic, not a map. Check the guide and the current situation.</source>
-        <translation type="unfinished"></translation>
+        <translation>La figure de la zone est schématique, ce n&apos;est pas une carte. Vérifiez le guide et la situation actuelle.</translation>
     </message>
     <message>
         <source>ISOLATION AND PROTECTIVE ACTION DISTANCES</source>
-        <translation type="unfinished"></translation>
+        <translation>DISTANCES D&apos;ISOLEMENT ET DE MESURES DE PROTECTION</translation>
     </message>
     <message>
         <source>Isolation distances: not in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Distances d&apos;isolement : absentes de ce paquet de données</translation>
     </message>
     <message>
         <source>GUIDE %1 (first points; read the whole guide)</source>
-        <translation type="unfinished"></translation>
+        <translation>GUIDE %1 (premiers points ; lisez le guide en entier)</translation>
     </message>
     <message>
         <source>GUIDE: not in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>GUIDE : absent de ce paquet de données</translation>
     </message>
     <message>
         <source>(continued in the guide)</source>
-        <translation type="unfinished"></translation>
+        <translation>(suite dans le guide)</translation>
     </message>
     <message>
         <source>more than %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>plus de %1 %2</translation>
     </message>
     <message>
         <source>Low wind</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent faible</translation>
     </message>
     <message>
         <source>Moderate wind</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent modéré</translation>
     </message>
     <message>
         <source>High wind</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent fort</translation>
     </message>
     <message>
         <source>night</source>
-        <translation type="unfinished"></translation>
+        <translation>nuit</translation>
     </message>
     <message>
         <source>No condition &quot;%1&quot; for this material</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune condition « %1 » pour cette matière</translation>
     </message>
     <message>
         <source>Container row &quot;%1&quot; is incomplete</source>
-        <translation type="unfinished"></translation>
+        <translation>La ligne de contenant « %1 » est incomplète</translation>
     </message>
     <message>
         <source>Large spill distances: not in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Distances pour grand déversement : absentes de ce paquet de données</translation>
     </message>
     <message>
         <source>Small spill distances: not in this data pack</source>
-        <translation type="unfinished"></translation>
+        <translation>Distances pour petit déversement : absentes de ce paquet de données</translation>
     </message>
     <message>
         <source>Distances &quot;%1&quot; and &quot;%2&quot; cannot be drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de dessiner les distances « %1 » et « %2 »</translation>
     </message>
     <message>
         <source>When spilled in water: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En cas de déversement dans l&apos;eau : %1</translation>
     </message>
     <message>
         <source>Condition: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Condition : %1</translation>
     </message>
     <message>
         <source>Wind from %1°</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent venant de %1°</translation>
     </message>
     <message>
         <source>Isolate %1 in all directions</source>
-        <translation type="unfinished"></translation>
+        <translation>Isoler %1 dans toutes les directions</translation>
     </message>
     <message>
         <source>Protect persons downwind for %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Protéger les personnes sous le vent sur %1 (%2)</translation>
     </message>
     <message>
         <source>The zone may reach further: it is not closed on the far side.</source>
-        <translation type="unfinished"></translation>
+        <translation>La zone peut s&apos;étendre plus loin : elle n&apos;est pas fermée du côté éloigné.</translation>
     </message>
     <message>
         <source>Schematic, not a map</source>
-        <translation type="unfinished"></translation>
+        <translation>Schématique, ce n&apos;est pas une carte</translation>
     </message>
     <message>
         <source>The guide could not be saved as a PDF for printing (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le guide n&apos;a pas pu être enregistré en PDF pour l&apos;impression (%1).</translation>
     </message>
     <message>
         <source>The guide was saved as a PDF and opened in your PDF viewer, which can print it:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le guide a été enregistré en PDF et ouvert dans votre lecteur PDF, qui permet de l&apos;imprimer :
+%1</translation>
     </message>
     <message>
         <source>The guide was saved as a PDF; open it to print it:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le guide a été enregistré en PDF ; ouvrez-le pour l&apos;imprimer :
+%1</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Isolation Distances</source>
-        <translation type="unfinished"></translation>
+        <translation>Distances d&apos;isolement</translation>
     </message>
     <message>
         <source>TIH Gases Produced:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gaz TIH produits :</translation>
     </message>
     <message>
         <source>TIH Gas Produced:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gaz TIH produit :</translation>
     </message>
     <message>
         <source>Low wind (&lt; 10 km/h):</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent faible (&lt; 10 km/h) :</translation>
     </message>
     <message>
         <source>Moderate wind (10-20 km/h):</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent modéré (10-20 km/h) :</translation>
     </message>
     <message>
         <source>High wind (&gt; 20 km/h):</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent fort (&gt; 20 km/h) :</translation>
     </message>
     <message>
         <source>Low wind (&lt; 6 mph):</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent faible (&lt; 6 mph) :</translation>
     </message>
     <message>
         <source>Moderate wind (6-12 mph):</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent modéré (6-12 mph) :</translation>
     </message>
     <message>
         <source>High wind (&gt; 12 mph):</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent fort (&gt; 12 mph) :</translation>
     </message>
     <message>
         <source>0 found: this data pack has no materials in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>0 trouvé : ce paquet de données ne contient aucune matière dans %1</translation>
     </message>
     <message>
         <source>Hazard Class</source>
-        <translation type="unfinished">Classe de danger</translation>
+        <translation>Classe de danger</translation>
     </message>
     <message>
         <source>NFPA 704</source>
-        <translation type="unfinished"></translation>
+        <translation>NFPA 704</translation>
     </message>
     <message>
         <source>Note:</source>
-        <translation type="unfinished"></translation>
+        <translation>Remarque :</translation>
     </message>
     <message>
         <source>Physical Description:</source>
-        <translation type="unfinished"></translation>
+        <translation>Description physique :</translation>
     </message>
     <message>
         <source>Synonyms/Trade Names:</source>
-        <translation type="unfinished"></translation>
+        <translation>Synonymes/noms commerciaux :</translation>
     </message>
     <message>
         <source>Exposure/Protection</source>
-        <translation type="unfinished"></translation>
+        <translation>Exposition/protection</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Retour</translation>
+        <translation>Retour</translation>
     </message>
     <message>
         <source>Table of markings, labels and placards</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau des marques, étiquettes et plaques</translation>
     </message>
     <message>
         <source>The guidebook&apos;s placard chart, which names the initial response guide for each placard, is not in this data pack. Identify the material by the shipping document, numbered placard or orange panel number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tableau des plaques du guide, qui indique le guide d&apos;intervention initiale pour chaque plaque, est absent de ce paquet de données. Identifiez la matière par le document d&apos;expédition, la plaque numérotée ou le numéro du panneau orange.</translation>
     </message>
     <message>
         <source>%1 (guide %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (guide %2)</translation>
     </message>
     <message>
         <source>The guidebook&apos;s index lists this explosive by its division only.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;index du guide ne répertorie cet explosif que par sa division.</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Special Provisions</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositions spéciales</translation>
     </message>
     <message>
         <source>Reported Incidents</source>
-        <translation type="unfinished"></translation>
+        <translation>Incidents signalés</translation>
     </message>
     <message>
         <source>Shipping Regulations</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglementation de l&apos;expédition</translation>
     </message>
     <message>
         <source>International</source>
-        <translation type="unfinished"></translation>
+        <translation>International</translation>
     </message>
     <message>
         <source>Domestic</source>
-        <translation type="unfinished"></translation>
+        <translation>National</translation>
     </message>
     <message>
         <source>%1: isolate %2 %3 in all directions, protect downwind %4 %5; wind from %6°</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : isoler %2 %3 dans toutes les directions, protéger sous le vent %4 %5 ; vent venant de %6°</translation>
     </message>
     <message>
         <source>%1: cannot create the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : impossible de créer le dossier</translation>
     </message>
     <message>
         <source>Saved to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré dans %1</translation>
     </message>
 </context>
 <context>
@@ -1440,14 +1442,14 @@
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished">À propos</translation>
+        <translation>À propos</translation>
     </message>
 </context>
 <context>
     <name>RegulationPage</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Retour</translation>
+        <translation>Retour</translation>
     </message>
 </context>
 <context>
@@ -1477,18 +1479,18 @@
     <name>ShippingEntryPage</name>
     <message>
         <source>Back</source>
-        <translation type="unfinished">Retour</translation>
+        <translation>Retour</translation>
     </message>
 </context>
 <context>
     <name>TextSizeButton</name>
     <message>
         <source>Text size</source>
-        <translation type="unfinished">Taille du texte</translation>
+        <translation>Taille du texte</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished">Terminé</translation>
+        <translation>Terminé</translation>
     </message>
 </context>
 </TS>
