@@ -100,6 +100,11 @@ void QORAppDelegate::showDetailForMaterial(const MaterialRef& material)
     emit detailMaterialChanged();
 }
 
+void QORAppDelegate::clearDetail()
+{
+    showDetailForMaterial(MaterialRef());
+}
+
 void QORAppDelegate::toggleFullscreen()
 {
     setFullscreen(!m_fullscreen);

@@ -49,6 +49,9 @@ public:
     Q_INVOKABLE void showAllMaterialsWithSort(int sort);
     Q_INVOKABLE void showFilteredListForCategory(const QString& abbrev);
     Q_INVOKABLE void showDetailForMaterial(const qor::MaterialRef& material);
+    // Empties the detail area. QML cannot pass null for a MaterialRef: Qt
+    // 6.4 copies such an argument from an invalid address.
+    Q_INVOKABLE void clearDetail();
     Q_INVOKABLE void toggleFullscreen();
     Q_INVOKABLE void setFullscreen(bool fullscreen);
     // A qor:// link from the command line or a second launch; always handled.

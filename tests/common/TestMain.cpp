@@ -1,5 +1,7 @@
 #include <QGuiApplication>
+#include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv)
@@ -11,6 +13,11 @@ int main(int argc, char** argv)
     QGuiApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("QOR-tests"));
     QCoreApplication::setApplicationName(QStringLiteral("QOR-tests"));
+    // CTest runs test processes side by side: each keeps its settings apart,
+    // so one test's units or wind never leak into another's figures.
+    QTemporaryDir settingsDir;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settingsDir.path());
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -19,7 +19,7 @@ TestCase {
         verify(AppDelegate.tablet)
     }
     function cleanupTestCase() {
-        AppDelegate.showDetailForMaterial(null)
+        AppDelegate.clearDetail()
         win.destroy()
         AppDelegate.setFormFactorOverride("phone")
     }

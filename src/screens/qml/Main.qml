@@ -122,7 +122,7 @@ ApplicationWindow {
             if (stack && stack.depth > 1)
                 stack.pop()
             else if (AppDelegate.tablet && AppDelegate.detailMaterial.valid)
-                AppDelegate.showDetailForMaterial(null)
+                AppDelegate.clearDetail()
         }
     }
 
