@@ -302,6 +302,8 @@ int main(int argc, char** argv)
 
     QObject::connect(&engine, &QQmlApplicationEngine::objectCreationFailed, &app, [] { QCoreApplication::exit(1); },
                      Qt::QueuedConnection);
+    // The launch tab first, the other tabs once its first frame is shown.
+    engine.setInitialProperties({ { QStringLiteral("deferTabs"), true } });
     engine.load(QUrl(QStringLiteral("qrc:/QOR/Main.qml")));
     if (engine.rootObjects().isEmpty())
         return 1;

@@ -22,15 +22,62 @@ ApplicationWindow {
     palette.highlightedText: QorTheme.pageText
 
     readonly property bool tablet: AppDelegate.tablet
-    property alias materialList: materialListPage
-    property alias historyPage: historyPage
-    property alias referencePage: referencePage
-    property alias aboutPage: aboutPage
+    // The app sets this: the tab shown at launch is built first and the other
+    // tabs once its first frame is on screen. Tests and the self-test build
+    // every tab at once.
+    property bool deferTabs: false
+    readonly property var tabPageFiles: ["MaterialListPage.qml", "GuideListPage.qml", "HistoryPage.qml",
+                                         "ReferencePage.qml", "AboutPage.qml", "SearchByIdPage.qml"]
+    readonly property Item materialList: builtTabs, tabStacks.count > 0 ? materialsStack.get(0) : null
+    readonly property Item historyPage: builtTabs, tabStacks.count > 2 ? historyStack.get(0) : null
+    readonly property Item referencePage: builtTabs, tabStacks.count > 3 ? referenceStack.get(0) : null
+    readonly property Item aboutPage: builtTabs, tabStacks.count > 4 ? aboutStack.get(0) : null
+    property int builtTabs: 0
     // An info page shown in the tablet detail area instead of a material.
     property var detailInfo: null
 
     onWidthChanged: AppDelegate.updateForWindowSize(width, height)
-    Component.onCompleted: AppDelegate.updateForWindowSize(width, height)
+    Component.onCompleted: {
+        AppDelegate.updateForWindowSize(width, height)
+        if (deferTabs)
+            tabPage(AppDelegate.currentTab)
+        else
+            for (var i = 0; i < tabPageFiles.length; ++i)
+                tabPage(i)
+    }
+    onFrameSwapped: buildDeferredTabs()
+    property bool buildingTabs: false
+    function buildDeferredTabs() {
+        if (deferTabs && !buildingTabs) {
+            buildingTabs = true
+            Qt.callLater(buildNextTab)
+        }
+    }
+    // Should no frame be swapped (a hidden window), the tabs come anyway.
+    Timer { running: window.deferTabs; interval: 1000; onTriggered: window.buildDeferredTabs() }
+
+    // The root page of tab INDEX, made when first needed.
+    function tabPage(index) {
+        var stack = tabStacks.children[index]
+        if (!stack)
+            return null
+        if (stack.depth === 0) {
+            stack.push(Qt.resolvedUrl(tabPageFiles[index]).toString(), {}, StackView.Immediate)
+            builtTabs += 1
+        }
+        return stack.get(0)
+    }
+
+    // One tab per turn of the event loop, so input is never held up for long.
+    function buildNextTab() {
+        for (var i = 0; i < tabPageFiles.length; ++i) {
+            if (tabStacks.children[i].depth === 0) {
+                tabPage(i)
+                Qt.callLater(buildNextTab)
+                return
+            }
+        }
+    }
 
     // Switching layout keeps the material on screen: the tablet shows it in
     // the detail area, the phone on top of the materials stack.
@@ -51,18 +98,22 @@ ApplicationWindow {
         function onMaterialRequested(material) { window.openMaterial(material) }
         function onDetailMaterialChanged() { window.detailInfo = null }
         function onGuideRequested(guideId, material) { window.openGuide(guideId, material) }
-        function onSearchRequested(text) { materialListPage.startSearch(text) }
+        function onCurrentTabChanged() { window.tabPage(Math.min(AppDelegate.currentTab, tabStacks.count - 1)) }
+        function onSearchRequested(text) { window.tabPage(0).startSearch(text) }
         // An index or table row of Reference shows the list itself, from its root.
         function onEndSearchRequested() {
+            window.tabPage(0)
             materialsStack.pop(null, StackView.Immediate)
-            materialListPage.endSearch()
+            materialsStack.get(0).endSearch()
         }
-        function onScrollToMaterialRequested(material) { materialListPage.scrollToMaterial(material) }
+        function onScrollToMaterialRequested(material) { window.tabPage(0).scrollToMaterial(material) }
         function onDialogRequested(title, message, button) {
-            messageDialog.title = title
-            messageText.text = message
-            dismissButton.text = button
-            messageDialog.open()
+            messageDialogLoader.active = true
+            var dialog = messageDialogLoader.item
+            dialog.title = title
+            dialog.message = message
+            dialog.button = button
+            dialog.open()
         }
     }
 
@@ -74,10 +125,12 @@ ApplicationWindow {
             return
         }
         AppDelegate.currentTab = AppDelegate.MaterialsTab
+        tabPage(0)
         materialsStack.push(Qt.resolvedUrl("MaterialDetailPage.qml").toString(), { material: material })
     }
 
     function openGuide(guideId, material) {
+        tabPage(1)
         guidesStack.pop(null)
         guidesStack.push(Qt.resolvedUrl("GuidePage.qml").toString(), { guideId: guideId, material: material })
     }
@@ -94,8 +147,9 @@ ApplicationWindow {
 
     function openPlacards() {
         AppDelegate.currentTab = AppDelegate.ReferenceTab
+        tabPage(3)
         referenceStack.pop(null, StackView.Immediate)
-        referencePage.openPlacards()
+        referenceStack.get(0).openPlacards()
     }
 
     function currentStack() {
@@ -143,12 +197,12 @@ ApplicationWindow {
                 Layout.fillHeight: true
                 currentIndex: Math.min(AppDelegate.currentTab, count - 1)
 
-                StackView { id: materialsStack; initialItem: MaterialListPage { id: materialListPage } }
-                StackView { id: guidesStack; initialItem: GuideListPage {} }
-                StackView { id: historyStack; initialItem: HistoryPage { id: historyPage } }
-                StackView { id: referenceStack; initialItem: ReferencePage { id: referencePage } }
-                StackView { id: aboutStack; initialItem: AboutPage { id: aboutPage } }
-                StackView { id: searchStack; initialItem: SearchByIdPage {} }
+                StackView { id: materialsStack }
+                StackView { id: guidesStack }
+                StackView { id: historyStack }
+                StackView { id: referenceStack }
+                StackView { id: aboutStack }
+                StackView { id: searchStack }
             }
 
             // The tab bar; About is reached elsewhere on a tablet.
@@ -213,15 +267,22 @@ ApplicationWindow {
         }
     }
 
-    Dialog {
-        id: messageDialog
-        objectName: "messageDialog"
-        anchors.centerIn: Overlay.overlay
-        modal: true
-        width: Math.min(400, window.width - 40)
-        Label { id: messageText; width: parent.width; wrapMode: Text.Wrap }
-        footer: DialogButtonBox {
-            Button { id: dismissButton; DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole }
+    // Made on the first message: a dialog costs start-up time and most runs show none.
+    Loader {
+        id: messageDialogLoader
+        active: false
+        sourceComponent: Dialog {
+            objectName: "messageDialog"
+            property alias message: messageText.text
+            property alias button: dismissButton.text
+            parent: Overlay.overlay
+            anchors.centerIn: parent
+            modal: true
+            width: Math.min(400, window.width - 40)
+            Label { id: messageText; width: parent.width; wrapMode: Text.Wrap }
+            footer: DialogButtonBox {
+                Button { id: dismissButton; DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole }
+            }
         }
     }
 
@@ -233,25 +294,31 @@ ApplicationWindow {
         // its icons through QML contexts that are already gone.
         // A newly chosen material starts from its own detail, never under a
         // sub-screen (isolation table, regulation page) of the previous one.
+        // Pages are made from their files, not declared here, so that their
+        // types (and the web engine behind info pages) load only when shown.
         StackView {
             id: detailStack
-            initialItem: detailPageComponent
+            Component.onCompleted: push(Qt.resolvedUrl("MaterialDetailPage.qml").toString(),
+                                        { material: AppDelegate.detailMaterial }, StackView.Immediate)
             Connections {
                 target: AppDelegate
-                function onDetailMaterialChanged() { detailStack.pop(null, StackView.Immediate) }
+                function onDetailMaterialChanged() {
+                    detailStack.pop(null, StackView.Immediate)
+                    detailStack.get(0).material = AppDelegate.detailMaterial
+                }
             }
         }
     }
     Component {
-        id: detailPageComponent
-        MaterialDetailPage { material: AppDelegate.detailMaterial }
-    }
-    Component {
         id: infoDetailComponent
-        InfoPage {
-            page: window.detailInfo ? window.detailInfo.page : ""
-            title: window.detailInfo ? window.detailInfo.title : ""
-            textSizeButton: window.detailInfo ? window.detailInfo.textSizeButton : false
+        Loader {
+            Component.onCompleted: setSource(Qt.resolvedUrl("InfoPage.qml"), window.detailInfo)
+            // Another info page chosen while one is shown replaces its contents.
+            onLoaded: {
+                item.page = Qt.binding(function() { return window.detailInfo ? window.detailInfo.page : "" })
+                item.title = Qt.binding(function() { return window.detailInfo ? window.detailInfo.title : "" })
+                item.textSizeButton = Qt.binding(function() { return window.detailInfo ? window.detailInfo.textSizeButton : false })
+            }
         }
     }
     Component {
@@ -284,7 +351,7 @@ ApplicationWindow {
             AppDelegate.currentTab = t
             return true
         }
-        var m = materialListPage.firstMaterial()
+        var m = tabPage(0).firstMaterial()
         if (!m || !m.valid)
             return false
         if (name === "guide") {
@@ -318,7 +385,7 @@ ApplicationWindow {
     function selfTest() {
         for (var t = 0; t < tabStacks.count; ++t)
             AppDelegate.currentTab = t
-        var m = materialListPage.firstMaterial()
+        var m = tabPage(0).firstMaterial()
         var pages = [["MaterialDetailPage.qml", { material: m }], ["GuidePage.qml", { guideId: m.guideId, material: m }],
                      ["FilterPage.qml", {}], ["PlacardsPage.qml", {}], ["IsolationPage.qml", { material: m }],
                      ["InfoPage.qml", { page: "Isolation_Distances", title: "" }], ["RegulationPage.qml", { html: "" }],
