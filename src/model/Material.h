@@ -77,6 +77,13 @@ public:
 
 using MaterialPtr = std::shared_ptr<Material>;
 using MaterialList = QList<MaterialPtr>;
+} // namespace qor
+
+// A shared pointer moves in memory as its bytes: lists of thousands of
+// materials then grow and copy without running each pointer's move.
+Q_DECLARE_TYPEINFO(qor::MaterialPtr, Q_RELOCATABLE_TYPE);
+
+namespace qor {
 
 // Response guide: number and title.
 class Guide {

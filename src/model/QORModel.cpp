@@ -7,6 +7,7 @@
 #include <QSet>
 #include <QStringDecoder>
 #include <algorithm>
+#include <string_view>
 #include <unordered_map>
 #include <cstdlib>
 
@@ -201,6 +202,24 @@ QString lowerPrefix(const QString& name)
 {
     return name.size() > 5 ? QStringView(name).left(5).toString().toLower() : name.toLower();
 }
+
+// Short fields (guide, placard, UN number, flags) mostly repeat the line
+// before: such a text is shared with the previous material, not made again.
+class RepeatedText {
+public:
+    QString operator()(QStringView text)
+    {
+        if (text != m_view || m_text.isNull()) {
+            m_view = text;
+            m_text = text.toString();
+        }
+        return m_text;
+    }
+
+private:
+    QStringView m_view;  // into the file's text, which outlives this
+    QString m_text;
+};
 } // namespace
 
 void QORModel::loadMaterials()
@@ -220,13 +239,27 @@ void QORModel::loadMaterials()
     const QString warfareKey = QStringLiteral("chemicalWarefareAgent");
     const QString tihKey = QStringLiteral("toxicInhalationHazard");
     const QString polymerizeKey = QStringLiteral("mayPolymerize");
+    // The attributes a line can give, one shared map per combination.
+    enum { WaterReactive = 1, Warfare = 2, Tih = 4 };
+    QVariantMap attributeSets[8];
+    for (int bits = 0; bits < 8; ++bits) {
+        if (bits & WaterReactive)
+            attributeSets[bits].insert(waterReactiveKey, waterReactiveText);
+        if (bits & Warfare)
+            attributeSets[bits].insert(warfareKey, warfareText);
+        if (bits & Tih)
+            attributeSets[bits].insert(tihKey, tihText);
+        // Deliberately false even when the guide carries the "P" suffix.
+        attributeSets[bits].insert(polymerizeKey, false);
+    }
+    RepeatedText placardText, guideText, unIdText, tihText2, waterText, warfareText2;
 
     Filter& all = *allFilter;
     MaterialList* previousSection = nullptr;
     QChar previousLetter;
     int lineNumber = 0;
     const qsizetype firstNew = materials.size();
-    materials.reserve(materials.size() + bytes.count('\n') + 1);
+    materials.reserve(materials.size() + std::count(bytes.cbegin(), bytes.cend(), '\n') + 1);
     forEachPart(text, u'\n', [&](QStringView line) {
         ++lineNumber;
         QStringView fields[8];
@@ -247,33 +280,32 @@ void QORModel::loadMaterials()
         auto m = std::make_shared<Material>();
         const QStringView name = fields[0];
         m->name = name.size() >= 4 ? capitalized(name) : name.toString();
-        m->placardId = fields[1].toString();
+        m->placardId = placardText(fields[1]);
         QStringView guide = fields[2];
         if (guide.endsWith(u'P')) {
             m->mayPolymerize = true;
             guide = guide.left(3);
         }
-        m->guideId = guide.toString();
-        m->unId = fields[3].toString();
-        if (!fields[4].isEmpty())
-            m->toxicInhalationHazard = fields[4].toString();
-        if (!fields[5].isEmpty())
-            m->waterReactive = fields[5].toString();
+        m->guideId = guideText(guide);
+        m->unId = unIdText(fields[3]);
+        int attributes = 0;
+        if (!fields[4].isEmpty()) {
+            m->toxicInhalationHazard = tihText2(fields[4]);
+            attributes |= Tih;
+        }
+        if (!fields[5].isEmpty()) {
+            m->waterReactive = waterText(fields[5]);
+            attributes |= WaterReactive;
+        }
         if (!fields[6].isEmpty()) {
             if (fields[6] == u"M")
                 m->methLab = true;
             else
-                m->chemicalWarefareAgent = fields[6].toString();
+                m->chemicalWarefareAgent = warfareText2(fields[6]);
+            if (fields[6] != u"M" && fields[6] != u"X" && fields[6] != u" ")
+                attributes |= Warfare;
         }
-        if (m->waterReactive && !m->waterReactive->isEmpty())
-            m->qorAttributes.insert(waterReactiveKey, waterReactiveText);
-        if (m->chemicalWarefareAgent && !m->chemicalWarefareAgent->isEmpty() && *m->chemicalWarefareAgent != QLatin1String("X")
-            && *m->chemicalWarefareAgent != QLatin1String(" "))
-            m->qorAttributes.insert(warfareKey, warfareText);
-        if (m->toxicInhalationHazard && !m->toxicInhalationHazard->isEmpty())
-            m->qorAttributes.insert(tihKey, tihText);
-        // Deliberately false even when the guide carries the "P" suffix.
-        m->qorAttributes.insert(polymerizeKey, false);
+        m->qorAttributes = attributeSets[attributes];
 
         // Names not starting with a letter go where the previous material went.
         const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
@@ -286,7 +318,6 @@ void QORModel::loadMaterials()
         materials.append(std::move(m));
     });
     all.invalidateSectionKeys();
-
     // Prefix index: keys of 0..3 leading characters; short names use length-1.
     // Neighbouring names mostly share their keys, so each level remembers its
     // last list; lists are gathered where adding keys moves no list, then

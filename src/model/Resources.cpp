@@ -69,21 +69,21 @@ void Preferences::setLanguageOverride(const QString& lang)
 
 int leadingInt(const QString& text)
 {
-    int i = 0;
-    const int n = int(text.size());
-    while (i < n && text.at(i).isSpace())
+    const char16_t* p = reinterpret_cast<const char16_t*>(text.utf16());
+    const qsizetype n = text.size();
+    qsizetype i = 0;
+    while (i < n && (p[i] == u' ' || QChar(p[i]).isSpace()))
         ++i;
     bool negative = false;
-    if (i < n && (text.at(i) == QLatin1Char('-') || text.at(i) == QLatin1Char('+'))) {
-        negative = text.at(i) == QLatin1Char('-');
+    if (i < n && (p[i] == u'-' || p[i] == u'+')) {
+        negative = p[i] == u'-';
         ++i;
     }
     long long value = 0;
-    while (i < n && text.at(i) >= QLatin1Char('0') && text.at(i) <= QLatin1Char('9')) {
-        value = value * 10 + (text.at(i).unicode() - '0');
+    for (; i < n && p[i] >= u'0' && p[i] <= u'9'; ++i) {
+        value = value * 10 + (p[i] - u'0');
         if (value > INT_MAX)
             return negative ? INT_MIN : INT_MAX;
-        ++i;
     }
     return int(negative ? -value : value);
 }
@@ -92,14 +92,29 @@ QString capitalized(QStringView text)
 {
     // Written in place: one allocation per text.
     QString out(text.size(), Qt::Uninitialized);
-    QChar* o = out.data();
+    char16_t* o = reinterpret_cast<char16_t*>(out.data());
+    const char16_t* in = reinterpret_cast<const char16_t*>(text.utf16());
     bool startOfWord = true;
-    for (const QChar c : text) {
+    for (qsizetype i = 0, n = text.size(); i < n; ++i) {
+        const char16_t u = in[i];
+        // ASCII, nearly every name, without the Unicode tables.
+        if (u < 0x80) {
+            const bool upper = u >= 'A' && u <= 'Z', lower = u >= 'a' && u <= 'z';
+            if (upper || lower || (u >= '0' && u <= '9')) {
+                o[i] = startOfWord ? (lower ? char16_t(u - 32) : u) : (upper ? char16_t(u + 32) : u);
+                startOfWord = false;
+            } else {
+                o[i] = u;
+                startOfWord = true;
+            }
+            continue;
+        }
+        const QChar c(u);
         if (c.isLetterOrNumber()) {
-            *o++ = startOfWord ? c.toUpper() : c.toLower();
+            o[i] = (startOfWord ? c.toUpper() : c.toLower()).unicode();
             startOfWord = false;
         } else {
-            *o++ = c;
+            o[i] = u;
             startOfWord = true;
         }
     }
