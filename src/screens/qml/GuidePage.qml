@@ -13,6 +13,9 @@ Page {
     property alias controller: controller
     property alias host: host
     property alias textSheet: textSizeButton.sheet
+    // For the shell's text size and print keys.
+    readonly property var textSizeController: controller
+    readonly property var printController: controller
     title: controller.title
     background: Rectangle { color: QorTheme.guideBackground }
 

@@ -17,6 +17,12 @@ ListView {
     ScrollBar.vertical: ScrollBar {}
     model: iso.sections
     onMaterialChanged: if (material && material.valid) { iso.material = material; zone.material = material }
+    activeFocusOnTab: true
+    Accessible.role: Accessible.List
+    Accessible.name: qsTr("Isolation Distances")
+    FocusRing { shown: table.activeFocus }
+    // The "U" key: feet and miles, or metres and kilometres.
+    function toggleUnits() { iso.segmentAction(iso.units === 0 ? 1 : 0) }
 
     IsolationTableDelegate {
         id: iso
