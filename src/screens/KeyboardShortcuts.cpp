@@ -54,6 +54,7 @@ QList<KeyboardShortcut> KeyboardShortcuts::forScreens(const QStringList& screens
         } else if (screen == QLatin1String("guidePage")) {
             addTextSize(out);
             add(out, L::tr("Ctrl+P"), L::tr("Print the guide"));
+            add(out, QStringLiteral("F11"), L::tr("Full screen"));
             add(out, L::tr("Esc"), L::tr("Leave full screen, then go back"));
         } else if (screen == QLatin1String("isolationPage")) {
             addUnits(out);

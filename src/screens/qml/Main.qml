@@ -163,6 +163,11 @@ ApplicationWindow {
                 page.printController.printWebPage()
         }
     }
+    // Full screen for reading a guide; Esc brings the bars back.
+    Shortcut {
+        sequence: "F11"
+        onActivated: if (window.livePageWith("printController")) AppDelegate.toggleFullscreen()
+    }
     Repeater {
         model: 3
         Item {
