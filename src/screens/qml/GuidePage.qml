@@ -69,6 +69,7 @@ Page {
     }
 
     PageHost {
+        title: page.title
         id: host
         x: 0
         width: controller.webWidth > 0 ? controller.webWidth : parent.width

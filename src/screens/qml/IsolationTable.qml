@@ -141,6 +141,7 @@ ListView {
                 Label { text: qsTr("Wind from (degrees)"); color: QorTheme.pageText; font.bold: true }
                 TextField {
                     objectName: "windField"
+                    Accessible.name: qsTr("Wind from (degrees)")
                     text: Math.round(zone.windFrom)
                     validator: IntValidator { bottom: 0; top: 360 }
                     inputMethodHints: Qt.ImhDigitsOnly
