@@ -20,6 +20,8 @@ void addRows(QList<KeyboardShortcut>& out)
 {
     add(out, L::tr("Tab, Up, Down"), L::tr("Move through the rows"));
     add(out, L::tr("Enter or Space"), L::tr("Open the focused row"));
+    add(out, L::tr("Ctrl+C"), L::tr("Copy the focused name and number"));
+    add(out, L::tr("Ctrl+I"), L::tr("About the focused section"));
 }
 
 void addTextSize(QList<KeyboardShortcut>& out)

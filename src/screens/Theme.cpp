@@ -104,6 +104,8 @@ constexpr ThemePair kPairs[] = {
     { "focusRing", "sectionBackground", true },
     { "focusRing", "isolationGreen", true },
     { "focusRing", "focusRingInner", true },
+    // Selected text and menu items: the controls' highlight is the ring's colour.
+    { "focusRingInner", "focusRing" },
     // The diamond's figures are large and bold.
     { "nfpaText", "nfpaFire", true },
     { "nfpaText", "nfpaReactivity", true },

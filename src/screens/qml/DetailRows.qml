@@ -39,6 +39,24 @@ ListView {
             parts.push(row.expanded ? qsTr("Show less") : qsTr("Show all %1 statements").arg(row.statements.length))
         return parts.filter(function(p) { return p !== undefined && p !== null && String(p).length > 0 }).join(", ")
     }
+    // The row buttons' own keys: Ctrl+C copies the focused row's name and
+    // number, Ctrl+I opens the page about the focused row's section.
+    Keys.onPressed: function(event) {
+        if (event.modifiers !== Qt.ControlModifier || currentIndex < 0 || currentIndex >= count)
+            return
+        if (event.key === Qt.Key_C && model[currentIndex].copyText) {
+            table.copyRequested(model[currentIndex].copyText)
+            event.accepted = true
+        } else if (event.key === Qt.Key_I) {
+            var start = currentIndex
+            while (start > 0 && !model[start].sectionStart)
+                --start
+            if (model[start].infoPage) {
+                table.infoClicked(model[start].infoPage, model[start].header)
+                event.accepted = true
+            }
+        }
+    }
     Keys.onReturnPressed: activate(currentIndex)
     Keys.onEnterPressed: activate(currentIndex)
     Keys.onSpacePressed: activate(currentIndex)

@@ -1,11 +1,11 @@
 import QtQuick
 import QOR
 
-// The keyboard focus ring over its parent, in both appearances: an outer
-// ring and a thin inner edge, so one of them stands out on any background.
+// The keyboard focus ring, in both appearances: an outer ring and a thin
+// inner edge, so one of them stands out on any background. Anchored by its
+// user, or sized by a list as its highlight.
 Rectangle {
     property bool shown: false
-    anchors.fill: parent
     visible: shown
     color: "transparent"
     border.width: 3

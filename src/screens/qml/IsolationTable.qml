@@ -20,7 +20,7 @@ ListView {
     activeFocusOnTab: true
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Isolation Distances")
-    FocusRing { shown: table.activeFocus }
+    FocusRing { parent: table; anchors.fill: parent; shown: table.activeFocus }
     // The "U" key: feet and miles, or metres and kilometres.
     function toggleUnits() { iso.segmentAction(iso.units === 0 ? 1 : 0) }
 

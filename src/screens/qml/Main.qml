@@ -18,8 +18,9 @@ ApplicationWindow {
     palette.placeholderText: QorTheme.secondaryText
     palette.button: QorTheme.sectionBackground
     palette.buttonText: QorTheme.pageText
-    palette.highlight: QorTheme.rowHighlight
-    palette.highlightedText: QorTheme.pageText
+    // The controls draw their keyboard focus and selection in the focus ring's colours.
+    palette.highlight: QorTheme.focusRing
+    palette.highlightedText: QorTheme.focusRingInner
 
     readonly property bool tablet: AppDelegate.tablet
     property alias materialList: materialListPage

@@ -153,6 +153,8 @@ Page {
         anchors.fill: parent
         active: page.wide
         sourceComponent: wideComponent
+        // The columns take over the keys where the tab's rows had them.
+        onLoaded: if (AppDelegate.tablet && AppDelegate.detailMaterial.valid) page.focusRows()
     }
 
     // Summary, isolation distances, and shipping with protection, as columns.
