@@ -162,6 +162,16 @@ TestCase {
         var page = openByKeys("1005")
         keyClick(Qt.Key_2, Qt.ControlModifier)
         compare(page.controller.selectedViewIndex, 1)
+        // Ctrl+I: the page about the focused row's section, as its "i" button opens.
+        focusRow(page.table, "incident")
+        keyClick(Qt.Key_I, Qt.ControlModifier)
+        tryCompare(materialsStack(), "busy", false)
+        compare(materialsStack().currentItem.objectName, "infoPage")
+        keyClick(Qt.Key_Escape)
+        tryCompare(materialsStack(), "busy", false)
+        compare(materialsStack().currentItem, page)
+        tryVerify(function() { return page.table.activeFocus }, 2000)
+        page.table.currentIndex = 0
         // A shipping entry, then its non-bulk packaging section.
         focusRow(page.table, "entry")
         keyClick(Qt.Key_Enter)

@@ -135,15 +135,19 @@ Page {
         }
     }
 
-    DetailRows {
+    // Every table of this screen: its rows open, copy and explain alike.
+    component MaterialRows: DetailRows {
+        onCopyRequested: function(text) { controller.copyToClipboard(text) }
+        onInfoClicked: function(name, title) { page.openInfo(name, title) }
+        onRowClicked: function(row, index) { page.activateRow(row) }
+    }
+
+    MaterialRows {
         id: table
         anchors.fill: parent
         visible: !page.wide
         model: page.wide ? [] : controller.rows
         Accessible.name: [qsTr("Summary"), qsTr("Shipping"), qsTr("Protection")][controller.selectedViewIndex] || qsTr("Details")
-        onCopyRequested: function(text) { controller.copyToClipboard(text) }
-        onInfoClicked: function(name, title) { page.openInfo(name, title) }
-        onRowClicked: function(row, index) { page.activateRow(row) }
         // Shipping rows shown inline belong to the material's one entry.
         ShippingTableDelegate { id: shippingTable; attributes: controller.shipping.firstEntry }
     }
@@ -176,7 +180,7 @@ Page {
                     column.currentIndex = 0
                 column.positionViewAtIndex(Math.max(0, column.currentIndex), ListView.Beginning)
             }
-            DetailRows {
+            MaterialRows {
                 id: summaryColumn
                 objectName: "summaryColumn"
                 Layout.fillHeight: true
@@ -184,9 +188,6 @@ Page {
                 Layout.preferredWidth: 1
                 model: controller.summary.rows
                 Accessible.name: qsTr("Summary")
-                onCopyRequested: function(text) { controller.copyToClipboard(text) }
-                onInfoClicked: function(name, title) { page.openInfo(name, title) }
-                onRowClicked: function(row, index) { page.activateRow(row) }
             }
             Rectangle { Layout.fillHeight: true; Layout.preferredWidth: 1; color: QorTheme.divider }
             IsolationTable {
@@ -200,7 +201,7 @@ Page {
                 onInfoRequested: function(name, title) { page.openInfo(name, title) }
             }
             Rectangle { visible: isolation.visible; Layout.fillHeight: true; Layout.preferredWidth: 1; color: QorTheme.divider }
-            DetailRows {
+            MaterialRows {
                 id: shippingColumn
                 objectName: "shippingColumn"
                 Layout.fillHeight: true
@@ -210,9 +211,6 @@ Page {
                 model: page.withoutTop(controller.shipping.rows)
                        .concat(controller.segmentImages.length > 2 ? controller.protection.rows : [])
                 Accessible.name: qsTr("Shipping") + ", " + qsTr("Protection")
-                onCopyRequested: function(text) { controller.copyToClipboard(text) }
-                onInfoClicked: function(name, title) { page.openInfo(name, title) }
-                onRowClicked: function(row, index) { page.activateRow(row) }
             }
         }
     }
