@@ -86,6 +86,11 @@ TestCase {
         typeText("chlor")
         verify(list().searchField.activeFocus, "typing on the list goes to the search")
         compare(list().searchField.text, "chlor")
+        // In the field "?" is a character, not the shortcut sheet.
+        keyClick("?")
+        compare(list().searchField.text, "chlor?")
+        verify(!findChild(win, "shortcutSheet").visible)
+        keyClick(Qt.Key_Backspace)
         tryVerify(function() { return list().controller.rowCount() > 2 }, 3000)
         var view = list().listView
         keyClick(Qt.Key_Down)
