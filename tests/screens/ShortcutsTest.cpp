@@ -75,14 +75,4 @@ TEST(Shortcuts, ReadingScreensOfferTextSizeAndTheGuidePrint)
     EXPECT_EQ(actionFor({ "guidePage" }, false, "Esc"), "Leave full screen, then go back");
 }
 
-TEST(Shortcuts, TheSheetGetsKeysAndActionsAsMaps)
-{
-    const QVariantList rows = KeyboardShortcuts::shortcutsFor({ "guidePage" }, false);
-    const QList<KeyboardShortcut> list = KeyboardShortcuts::forScreens({ "guidePage" }, false);
-    ASSERT_EQ(rows.size(), list.size());
-    EXPECT_EQ(rows.first().toMap().value("keys").toString(), list.first().keys);
-    EXPECT_EQ(rows.first().toMap().value("action").toString(), list.first().action);
-    EXPECT_EQ(KeyboardShortcuts::title(), "Keyboard shortcuts");
-}
-
 } // namespace
