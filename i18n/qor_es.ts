@@ -93,6 +93,10 @@
         <source>Show all %1 statements</source>
         <translation>Mostrar las %1 indicaciones</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
 </context>
 <context>
     <name>FilterPage</name>
@@ -114,6 +118,10 @@
     <message>
         <source>Guides</source>
         <translation>Guías</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>Guía</translation>
     </message>
 </context>
 <context>
@@ -258,6 +266,10 @@
         <source>(Night)</source>
         <translation>(Noche)</translation>
     </message>
+    <message>
+        <source>Isolation Distances</source>
+        <translation>Distancias de aislamiento</translation>
+    </message>
 </context>
 <context>
     <name>Main</name>
@@ -293,6 +305,10 @@
         <source>Choose a material</source>
         <translation>Elija un material</translation>
     </message>
+    <message>
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
 </context>
 <context>
     <name>MaterialDetailPage</name>
@@ -307,6 +323,10 @@
     <message>
         <source>Protection</source>
         <translation>Protección</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
     </message>
 </context>
 <context>
@@ -334,6 +354,17 @@
     <message>
         <source>Suggestion</source>
         <translation>Sugerencia</translation>
+    </message>
+    <message>
+        <source>Section index</source>
+        <translation>Índice de secciones</translation>
+    </message>
+</context>
+<context>
+    <name>PageHost</name>
+    <message>
+        <source>Page text</source>
+        <translation>Texto de la página</translation>
     </message>
 </context>
 <context>
@@ -1433,6 +1464,146 @@
         <source>Saved to %1</source>
         <translation>Guardado en %1</translation>
     </message>
+    <message>
+        <source>Tab, Up, Down</source>
+        <translation>Tab, Arriba, Abajo</translation>
+    </message>
+    <message>
+        <source>Move through the rows</source>
+        <translation>Recorrer las filas</translation>
+    </message>
+    <message>
+        <source>Enter or Space</source>
+        <translation>Intro o Espacio</translation>
+    </message>
+    <message>
+        <source>Open the focused row</source>
+        <translation>Abrir la fila seleccionada</translation>
+    </message>
+    <message>
+        <source>Ctrl+C</source>
+        <translation>Ctrl+C</translation>
+    </message>
+    <message>
+        <source>Copy the focused name and number</source>
+        <translation>Copiar el nombre y el número seleccionados</translation>
+    </message>
+    <message>
+        <source>Ctrl+I</source>
+        <translation>Ctrl+I</translation>
+    </message>
+    <message>
+        <source>About the focused section</source>
+        <translation>Acerca de la sección seleccionada</translation>
+    </message>
+    <message>
+        <source>Ctrl+Plus</source>
+        <translation>Ctrl+Más</translation>
+    </message>
+    <message>
+        <source>Larger text</source>
+        <translation>Texto más grande</translation>
+    </message>
+    <message>
+        <source>Ctrl+Minus</source>
+        <translation>Ctrl+Menos</translation>
+    </message>
+    <message>
+        <source>Smaller text</source>
+        <translation>Texto más pequeño</translation>
+    </message>
+    <message>
+        <source>Switch between ft/miles and m/kms</source>
+        <translation>Cambiar entre pies/millas y m/km</translation>
+    </message>
+    <message>
+        <source>Type, Ctrl+F or /</source>
+        <translation>Escribir, Ctrl+F o /</translation>
+    </message>
+    <message>
+        <source>Search the materials</source>
+        <translation>Buscar los materiales</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Intro</translation>
+    </message>
+    <message>
+        <source>Open the first result</source>
+        <translation>Abrir el primer resultado</translation>
+    </message>
+    <message>
+        <source>Up, Down</source>
+        <translation>Arriba, Abajo</translation>
+    </message>
+    <message>
+        <source>Move through the results</source>
+        <translation>Recorrer los resultados</translation>
+    </message>
+    <message>
+        <source>Ctrl+1, Ctrl+2, Ctrl+3</source>
+        <translation>Ctrl+1, Ctrl+2, Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Go to the summary, shipping or protection column</source>
+        <translation>Ir a la columna de resumen, embarque o protección</translation>
+    </message>
+    <message>
+        <source>Show the Summary, Shipping or Protection tab</source>
+        <translation>Mostrar la pestaña Resumen, Embarque o Protección</translation>
+    </message>
+    <message>
+        <source>Ctrl+P</source>
+        <translation>Ctrl+P</translation>
+    </message>
+    <message>
+        <source>Print the guide</source>
+        <translation>Imprimir la guía</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Pantalla completa</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Leave full screen, then go back</source>
+        <translation>Salir de pantalla completa y luego volver</translation>
+    </message>
+    <message>
+        <source>Esc or Alt+Left</source>
+        <translation>Esc o Alt+Izquierda</translation>
+    </message>
+    <message>
+        <source>Tab, Shift+Tab</source>
+        <translation>Tab, Mayús+Tab</translation>
+    </message>
+    <message>
+        <source>Move to the next or previous control</source>
+        <translation>Ir al control siguiente o anterior</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+D</source>
+        <translation>Ctrl+Mayús+D</translation>
+    </message>
+    <message>
+        <source>Switch between the light and dark appearance</source>
+        <translation>Cambiar entre la apariencia clara y la oscura</translation>
+    </message>
+    <message>
+        <source>F1 or ?</source>
+        <translation>F1 o ?</translation>
+    </message>
+    <message>
+        <source>Show these keyboard shortcuts</source>
+        <translation>Mostrar estos atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
 </context>
 <context>
     <name>ReferencePage</name>
@@ -1450,6 +1621,10 @@
     <message>
         <source>Back</source>
         <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Page text</source>
+        <translation>Texto de la página</translation>
     </message>
 </context>
 <context>

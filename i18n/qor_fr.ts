@@ -93,6 +93,10 @@
         <source>Show all %1 statements</source>
         <translation>Afficher les %1 mentions</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
 </context>
 <context>
     <name>FilterPage</name>
@@ -114,6 +118,10 @@
     <message>
         <source>Guides</source>
         <translation>Guides</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>Guide</translation>
     </message>
 </context>
 <context>
@@ -258,6 +266,10 @@
         <source>(Night)</source>
         <translation>(Nuit)</translation>
     </message>
+    <message>
+        <source>Isolation Distances</source>
+        <translation>Distances d&apos;isolement</translation>
+    </message>
 </context>
 <context>
     <name>Main</name>
@@ -293,6 +305,10 @@
         <source>Choose a material</source>
         <translation>Choisissez une matière</translation>
     </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
 </context>
 <context>
     <name>MaterialDetailPage</name>
@@ -307,6 +323,10 @@
     <message>
         <source>Protection</source>
         <translation>Protection</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
     </message>
 </context>
 <context>
@@ -334,6 +354,17 @@
     <message>
         <source>Suggestion</source>
         <translation>Suggestion</translation>
+    </message>
+    <message>
+        <source>Section index</source>
+        <translation>Index des sections</translation>
+    </message>
+</context>
+<context>
+    <name>PageHost</name>
+    <message>
+        <source>Page text</source>
+        <translation>Texte de la page</translation>
     </message>
 </context>
 <context>
@@ -1433,6 +1464,146 @@
         <source>Saved to %1</source>
         <translation>Enregistré dans %1</translation>
     </message>
+    <message>
+        <source>Tab, Up, Down</source>
+        <translation>Tab, Haut, Bas</translation>
+    </message>
+    <message>
+        <source>Move through the rows</source>
+        <translation>Parcourir les lignes</translation>
+    </message>
+    <message>
+        <source>Enter or Space</source>
+        <translation>Entrée ou Espace</translation>
+    </message>
+    <message>
+        <source>Open the focused row</source>
+        <translation>Ouvrir la ligne sélectionnée</translation>
+    </message>
+    <message>
+        <source>Ctrl+C</source>
+        <translation>Ctrl+C</translation>
+    </message>
+    <message>
+        <source>Copy the focused name and number</source>
+        <translation>Copier le nom et le numéro sélectionnés</translation>
+    </message>
+    <message>
+        <source>Ctrl+I</source>
+        <translation>Ctrl+I</translation>
+    </message>
+    <message>
+        <source>About the focused section</source>
+        <translation>À propos de la section sélectionnée</translation>
+    </message>
+    <message>
+        <source>Ctrl+Plus</source>
+        <translation>Ctrl+Plus</translation>
+    </message>
+    <message>
+        <source>Larger text</source>
+        <translation>Texte plus grand</translation>
+    </message>
+    <message>
+        <source>Ctrl+Minus</source>
+        <translation>Ctrl+Moins</translation>
+    </message>
+    <message>
+        <source>Smaller text</source>
+        <translation>Texte plus petit</translation>
+    </message>
+    <message>
+        <source>Switch between ft/miles and m/kms</source>
+        <translation>Basculer entre pieds/milles et m/km</translation>
+    </message>
+    <message>
+        <source>Type, Ctrl+F or /</source>
+        <translation>Saisir, Ctrl+F ou /</translation>
+    </message>
+    <message>
+        <source>Search the materials</source>
+        <translation>Rechercher les matières</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Open the first result</source>
+        <translation>Ouvrir le premier résultat</translation>
+    </message>
+    <message>
+        <source>Up, Down</source>
+        <translation>Haut, Bas</translation>
+    </message>
+    <message>
+        <source>Move through the results</source>
+        <translation>Parcourir les résultats</translation>
+    </message>
+    <message>
+        <source>Ctrl+1, Ctrl+2, Ctrl+3</source>
+        <translation>Ctrl+1, Ctrl+2, Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Go to the summary, shipping or protection column</source>
+        <translation>Aller à la colonne résumé, expédition ou protection</translation>
+    </message>
+    <message>
+        <source>Show the Summary, Shipping or Protection tab</source>
+        <translation>Afficher l&apos;onglet Résumé, Expédition ou Protection</translation>
+    </message>
+    <message>
+        <source>Ctrl+P</source>
+        <translation>Ctrl+P</translation>
+    </message>
+    <message>
+        <source>Print the guide</source>
+        <translation>Imprimer le guide</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>Leave full screen, then go back</source>
+        <translation>Quitter le plein écran, puis revenir</translation>
+    </message>
+    <message>
+        <source>Esc or Alt+Left</source>
+        <translation>Échap ou Alt+Gauche</translation>
+    </message>
+    <message>
+        <source>Tab, Shift+Tab</source>
+        <translation>Tab, Maj+Tab</translation>
+    </message>
+    <message>
+        <source>Move to the next or previous control</source>
+        <translation>Aller au contrôle suivant ou précédent</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+D</source>
+        <translation>Ctrl+Maj+D</translation>
+    </message>
+    <message>
+        <source>Switch between the light and dark appearance</source>
+        <translation>Basculer entre l&apos;apparence claire et sombre</translation>
+    </message>
+    <message>
+        <source>F1 or ?</source>
+        <translation>F1 ou ?</translation>
+    </message>
+    <message>
+        <source>Show these keyboard shortcuts</source>
+        <translation>Afficher ces raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
 </context>
 <context>
     <name>ReferencePage</name>
@@ -1450,6 +1621,10 @@
     <message>
         <source>Back</source>
         <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Page text</source>
+        <translation>Texte de la page</translation>
     </message>
 </context>
 <context>

@@ -227,12 +227,13 @@ int main(int argc, char** argv)
     QCommandLineOption detailTab(QStringLiteral("detail-tab"), QStringLiteral("Show tab N of the material opened by a link."), QStringLiteral("N"));
     QCommandLineOption openScreen(QStringLiteral("open-screen"), QStringLiteral("Open isolation, zone or guide for the material opened by a link."), QStringLiteral("NAME"));
     QCommandLineOption appearance(QStringLiteral("appearance"), QStringLiteral("Use the light or dark appearance."), QStringLiteral("light|dark"));
+    QCommandLineOption shortcutSheet(QStringLiteral("shortcut-sheet"), QStringLiteral("Open the keyboard shortcuts sheet (for screenshots)."));
     QCommandLineOption quitFrom(QStringLiteral("quit-from"), QStringLiteral("Open screen NAME, then quit (for the self-test)."), QStringLiteral("NAME"));
     quitFrom.setFlags(QCommandLineOption::HiddenFromHelp);
     firstFrame.setFlags(QCommandLineOption::HiddenFromHelp);
     emptyWindow.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOptions({ version, resources, dataDir, openTab, openPlacards, lang, formFactor, selfTest, screenshot, screenshotDelay,
-                        size, firstFrame, emptyWindow, detailTab, openScreen, appearance, quitFrom, sortOrder });
+                        size, firstFrame, emptyWindow, detailTab, openScreen, appearance, quitFrom, sortOrder, shortcutSheet });
     parser.addPositionalArgument(QStringLiteral("links"), QStringLiteral("qor://search?q=TEXT or qor://chemical?un=NUMBER"), QStringLiteral("[links...]"));
     parser.process(app);
 
@@ -352,6 +353,9 @@ int main(int argc, char** argv)
                                                                       detail->property("material").value<MaterialRef>());
         });
     }
+    // After a link's material and any screen opened above, so the sheet lists their keys.
+    if (window && parser.isSet(shortcutSheet))
+        QTimer::singleShot(1200, window, [window] { QMetaObject::invokeMethod(window, "showShortcuts"); });
     if (window && parser.isSet(firstFrame))
         QObject::connect(window, &QQuickWindow::frameSwapped, &app, &QCoreApplication::quit, Qt::QueuedConnection);
 

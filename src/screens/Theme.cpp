@@ -37,6 +37,10 @@ constexpr ThemeRole kRoles[] = {
     { "noticeText", 0x7a3d00, 0xffb045 },
     { "rowHighlight", 0xc6d6e8, 0x34495e },     // pressed or selected row
     { "rowFocus", 0xe3eaf2, 0x2e3e52 },
+    // The keyboard focus ring: a ring with a thin inner edge of its own, so
+    // that one of the two stands out on any row, white cards included.
+    { "focusRing", 0x1f5fae, 0xffe9b0 },
+    { "focusRingInner", 0xffffff, 0x000000 },
     { "separator", 0xc5cdd6, 0x1c2630 },
     { "divider", 0x000000, 0x000000 },
     // Isolation rows: RGB 156, 188, 156 in light mode, 105, 137, 105 in dark.
@@ -95,6 +99,13 @@ constexpr ThemePair kPairs[] = {
     { "cardText", "cardBackground" },
     { "linkText", "cardBackground" },
     { "accentText", "sectionBackground" },
+    // The focus ring is not text: 3:1 against what it is drawn on.
+    { "focusRing", "pageBackground", true },
+    { "focusRing", "sectionBackground", true },
+    { "focusRing", "isolationGreen", true },
+    { "focusRing", "focusRingInner", true },
+    // Selected text and menu items: the controls' highlight is the ring's colour.
+    { "focusRingInner", "focusRing" },
     // The diamond's figures are large and bold.
     { "nfpaText", "nfpaFire", true },
     { "nfpaText", "nfpaReactivity", true },

@@ -87,4 +87,59 @@ TestCase {
         verify(win.aboutPage.width > 0)
         AppDelegate.currentTab = AppDelegate.ReferenceTab
     }
+
+    // Summary, distances, shipping and protection at once; the keys reach each.
+    function test_theWholeMaterialAtOnce() {
+        AppDelegate.currentTab = AppDelegate.MaterialsTab
+        AppDelegate.showDetailForMaterial(materialWithId("1017"))
+        var page = detailPage()
+        verify(page.wide)
+        verify(!findChild(page, "segments").visible, "no tabs")
+        var columns = findChild(page, "wideColumns")
+        verify(columns && columns.visible)
+        var summary = findChild(columns, "summaryColumn")
+        var isolation = findChild(columns, "isolationColumn")
+        var shipping = findChild(columns, "shippingColumn")
+        verify(isolation.visible, "the distances show without a click")
+        verify(isolation.width >= 280 && summary.width >= 280 && shipping.width >= 280)
+        verify(isolation.delegateController.sections.length > 0)
+        function kinds(view) { return view.model.map(function(r) { return r.kind }) }
+        verify(kinds(summary).indexOf("guide") >= 0)
+        verify(kinds(shipping).indexOf("incident") >= 0 && kinds(shipping).indexOf("shipping") >= 0, "shipping")
+        verify(kinds(shipping).indexOf("npg") >= 0, "protection follows shipping")
+        compare(kinds(shipping).indexOf("top"), -1, "the name and placard only once")
+
+        // The rows hold the keys; U switches the units of the distances on screen.
+        tryVerify(function() { return summary.activeFocus })
+        var units = isolation.delegateController.units
+        keyClick(Qt.Key_U)
+        compare(isolation.delegateController.units, 1 - units)
+        keyClick(Qt.Key_U)
+        compare(isolation.delegateController.units, units)
+        keyClick(Qt.Key_2, Qt.ControlModifier)
+        verify(shipping.activeFocus)
+        compare(shipping.currentIndex, 0)
+        keyClick(Qt.Key_3, Qt.ControlModifier)
+        compare(shipping.model[shipping.currentIndex].kind, "npg", "Ctrl+3 goes to the protection rows")
+        keyClick(Qt.Key_1, Qt.ControlModifier)
+        verify(summary.activeFocus)
+
+        // The sheet lists the list's keys and the detail's side by side.
+        win.showShortcuts()
+        var sheet = findChild(win, "shortcutSheet")
+        tryCompare(sheet, "opened", true)
+        var keys = sheet.shortcuts.map(function(s) { return s.keys })
+        verify(keys.indexOf("Type, Ctrl+F or /") >= 0 && keys.indexOf("U") >= 0, keys.join(" | "))
+        keyClick(Qt.Key_Escape)
+        tryCompare(sheet, "visible", false)
+        verify(AppDelegate.detailMaterial.valid, "Esc closed the sheet only")
+
+        // Enter on the guide row opens the guide, as a tap does.
+        while (summary.model[summary.currentIndex].kind !== "guide")
+            keyClick(Qt.Key_Down)
+        keyClick(Qt.Key_Return)
+        compare(AppDelegate.currentTab, AppDelegate.GuidesTab)
+        tryVerify(function() { var g = findChild(win.contentItem, "guidePage"); return g && g.guideId === "124" }, 3000)
+        findChild(win.contentItem, "guidePage").StackView.view.pop(null, StackView.Immediate)
+    }
 }

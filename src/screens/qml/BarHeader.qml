@@ -28,6 +28,8 @@ ToolBar {
         Label {
             Layout.fillWidth: true
             Layout.leftMargin: 8
+            Layout.preferredHeight: QorTheme.touchTarget
+            verticalAlignment: Text.AlignVCenter
             text: bar.title
             color: QorTheme.barText
             font.bold: true

@@ -14,12 +14,77 @@ ListView {
     spacing: 1
     boundsBehavior: Flickable.StopAtBounds
     ScrollBar.vertical: ScrollBar {}
+    // Keyboard: the rows take focus in order, Enter or Space opens the focused one.
+    activeFocusOnTab: true
+    keyNavigationEnabled: true
+    highlightMoveDuration: 0
+    highlightResizeDuration: 0
+    // Above the rows, whose backgrounds would hide it.
+    highlight: FocusRing { shown: table.activeFocus }
+    currentIndex: -1
+    Accessible.role: Accessible.List
+    Accessible.name: qsTr("Details")
+    onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
+
+    // Taps and keys open a row through here alike.
+    function activate(index) {
+        if (index >= 0 && index < count)
+            table.rowClicked(model[index], index)
+    }
+    // A row's name for screen readers: its visible texts in reading order.
+    function rowName(row) {
+        var parts = [row.header && row.sectionStart ? row.header : "", row.caption, row.name, row.unId, row.title, row.subtitle,
+                     row.text, row.detail, row.note]
+        if (row.kind === "ghs")
+            parts.push(row.expanded ? qsTr("Show less") : qsTr("Show all %1 statements").arg(row.statements.length))
+        return parts.filter(function(p) { return p !== undefined && p !== null && String(p).length > 0 }).join(", ")
+    }
+    // The row buttons' own keys: Ctrl+C copies the focused row's name and
+    // number, Ctrl+I opens the page about the focused row's section.
+    Keys.onPressed: function(event) {
+        if (event.modifiers !== Qt.ControlModifier || currentIndex < 0 || currentIndex >= count)
+            return
+        if (event.key === Qt.Key_C && model[currentIndex].copyText) {
+            table.copyRequested(model[currentIndex].copyText)
+            event.accepted = true
+        } else if (event.key === Qt.Key_I) {
+            var start = currentIndex
+            while (start > 0 && !model[start].sectionStart)
+                --start
+            if (model[start].infoPage) {
+                table.infoClicked(model[start].infoPage, model[start].header)
+                event.accepted = true
+            }
+        }
+    }
+    Keys.onReturnPressed: activate(currentIndex)
+    Keys.onEnterPressed: activate(currentIndex)
+    Keys.onSpacePressed: activate(currentIndex)
+    // Tab walks the rows before it leaves the table.
+    Keys.onTabPressed: function(event) {
+        if (currentIndex < count - 1) {
+            currentIndex = currentIndex + 1
+            positionViewAtIndex(currentIndex, ListView.Contain)
+        } else {
+            event.accepted = false
+        }
+    }
+    Keys.onBacktabPressed: function(event) {
+        if (currentIndex > 0) {
+            currentIndex = currentIndex - 1
+            positionViewAtIndex(currentIndex, ListView.Contain)
+        } else {
+            event.accepted = false
+        }
+    }
 
     delegate: Column {
         id: cell
         required property var modelData
         required property int index
         width: ListView.view.width
+        Accessible.role: Accessible.ListItem
+        Accessible.name: table.rowName(modelData)
         Rectangle {
             visible: cell.modelData.sectionStart && cell.modelData.header.length > 0
             width: parent.width
@@ -64,7 +129,7 @@ ListView {
                 }
             }
         }
-        TapHandler { onTapped: table.rowClicked(cell.modelData, cell.index) }
+        TapHandler { onTapped: { table.currentIndex = cell.index; table.activate(cell.index) } }
     }
 
     Component {

@@ -53,6 +53,7 @@ Page {
             required property string badge
             width: ListView.view.width
             height: 60
+            Accessible.name: qsTr("Guide") + " " + guideId + ", " + name
             onClicked: page.openRow(index)
             background: Rectangle { color: pressed ? QorTheme.sectionBackground : QorTheme.pageBackground }
             contentItem: Item {

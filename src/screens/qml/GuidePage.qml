@@ -13,6 +13,9 @@ Page {
     property alias controller: controller
     property alias host: host
     property alias textSheet: textSizeButton.sheet
+    // For the shell's text size and print keys.
+    readonly property var textSizeController: controller
+    readonly property var printController: controller
     title: controller.title
     background: Rectangle { color: QorTheme.guideBackground }
 
@@ -66,6 +69,7 @@ Page {
     }
 
     PageHost {
+        title: page.title
         id: host
         x: 0
         width: controller.webWidth > 0 ? controller.webWidth : parent.width

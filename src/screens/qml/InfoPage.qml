@@ -11,6 +11,8 @@ Page {
     // Reference pages offer the text size; "HOW TO USE THE GUIDEBOOK" does not.
     property bool textSizeButton: false
     property alias controller: controller
+    // For the shell's text size keys, where the page offers the text size.
+    readonly property var textSizeController: textSizeButton ? textSize : null
     background: Rectangle { color: QorTheme.pageBackground }
     header: BarHeader {
         page: page
@@ -31,6 +33,7 @@ Page {
     GuideViewController { id: textSize }
     footer: SourceLine { text: controller.sourceLine }
     PageHost {
+        title: page.title
         anchors.fill: parent
         pageView: controller.pageView
         zoom: textSize.textFontSize / 100

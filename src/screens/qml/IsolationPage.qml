@@ -9,6 +9,14 @@ Page {
     property var material
     property string backText: qsTr("Back")
     property alias table: table
+    readonly property Item unitsTable: table
+    StackView.onActivated: table.forceActiveFocus()
+    Keys.onPressed: function(event) {
+        if (event.key === Qt.Key_U && event.modifiers === Qt.NoModifier) {
+            table.toggleUnits()
+            event.accepted = true
+        }
+    }
     title: qsTr("Isolation Distances")
     background: Rectangle { color: QorTheme.pageBackground }
     header: BarHeader {

@@ -17,6 +17,12 @@ ListView {
     ScrollBar.vertical: ScrollBar {}
     model: iso.sections
     onMaterialChanged: if (material && material.valid) { iso.material = material; zone.material = material }
+    activeFocusOnTab: true
+    Accessible.role: Accessible.List
+    Accessible.name: qsTr("Isolation Distances")
+    FocusRing { parent: table; anchors.fill: parent; shown: table.activeFocus }
+    // The "U" key: feet and miles, or metres and kilometres.
+    function toggleUnits() { iso.segmentAction(iso.units === 0 ? 1 : 0) }
 
     IsolationTableDelegate {
         id: iso
@@ -135,6 +141,7 @@ ListView {
                 Label { text: qsTr("Wind from (degrees)"); color: QorTheme.pageText; font.bold: true }
                 TextField {
                     objectName: "windField"
+                    Accessible.name: qsTr("Wind from (degrees)")
                     text: Math.round(zone.windFrom)
                     validator: IntValidator { bottom: 0; top: 360 }
                     inputMethodHints: Qt.ImhDigitsOnly

@@ -18,8 +18,9 @@ ApplicationWindow {
     palette.placeholderText: QorTheme.secondaryText
     palette.button: QorTheme.sectionBackground
     palette.buttonText: QorTheme.pageText
-    palette.highlight: QorTheme.rowHighlight
-    palette.highlightedText: QorTheme.pageText
+    // The controls draw their keyboard focus and selection in the focus ring's colours.
+    palette.highlight: QorTheme.focusRing
+    palette.highlightedText: QorTheme.focusRingInner
 
     readonly property bool tablet: AppDelegate.tablet
     // The app sets this: the tab shown at launch is built first and the other
@@ -163,6 +164,84 @@ ApplicationWindow {
         onActivated: QorTheme.toggle()
     }
 
+    // The pages on screen: the current tab's top page and, in the wide
+    // layout, the page in the detail area.
+    function livePages() {
+        var pages = []
+        var stack = currentStack()
+        if (stack && stack.currentItem)
+            pages.push(stack.currentItem)
+        var detail = window.tablet ? detailArea.item : null
+        if (detail && detail.currentItem !== undefined)
+            detail = detail.currentItem
+        else if (detail && detail.item !== undefined)  // an info page, loaded from its file
+            detail = detail.item
+        if (detail && detail.objectName)
+            pages.push(detail)
+        return pages
+    }
+    // The first page on screen that has `property`, or null.
+    function livePageWith(property) {
+        var pages = livePages()
+        for (var i = 0; i < pages.length; ++i)
+            if (pages[i][property])
+                return pages[i]
+        return null
+    }
+    function showShortcuts() {
+        shortcutSheetLoader.active = true
+        var sheet = shortcutSheetLoader.item
+        sheet.shortcuts = KeyboardShortcuts.shortcutsFor(livePages().map(function(p) { return p.objectName }),
+                                                         window.tablet)
+        sheet.open()
+    }
+    function changeTextSize(step) {
+        var page = livePageWith("textSizeController")
+        if (page)
+            page.textSizeController.sliderChanged(page.textSizeController.textFontSize + step)
+    }
+
+    Shortcut {
+        objectName: "shortcutsShortcut"
+        sequences: ["F1", "?"]
+        onActivated: window.showShortcuts()
+    }
+    Shortcut {
+        sequences: [StandardKey.ZoomIn, "Ctrl+="]
+        onActivated: window.changeTextSize(5)
+    }
+    Shortcut {
+        sequence: StandardKey.ZoomOut
+        onActivated: window.changeTextSize(-5)
+    }
+    Shortcut {
+        sequence: StandardKey.Print
+        onActivated: {
+            var page = window.livePageWith("printController")
+            if (page)
+                page.printController.printWebPage()
+        }
+    }
+    // Full screen for reading a guide; Esc brings the bars back.
+    Shortcut {
+        sequence: "F11"
+        onActivated: if (window.livePageWith("printController")) AppDelegate.toggleFullscreen()
+    }
+    Repeater {
+        model: 3
+        Item {
+            required property int index
+            Shortcut {
+                sequence: "Ctrl+" + (index + 1)
+                onActivated: {
+                    var page = window.livePageWith("showSection")
+                    if (page)
+                        page.showSection(index)
+                }
+            }
+        }
+    }
+
     // Esc goes back one screen wherever focus is.
     Shortcut {
         sequences: [StandardKey.Back, "Esc"]
@@ -281,8 +360,62 @@ ApplicationWindow {
             width: Math.min(400, window.width - 40)
             Label { id: messageText; width: parent.width; wrapMode: Text.Wrap }
             footer: DialogButtonBox {
-                Button { id: dismissButton; DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole }
+                Button { id: dismissButton; Accessible.name: text; DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole }
             }
+        }
+    }
+
+    // The keys live on the screens shown, opened with F1 or "?"; made when
+    // first asked for.
+    Loader {
+        id: shortcutSheetLoader
+        active: false
+        sourceComponent: Dialog {
+        id: shortcutSheet
+        objectName: "shortcutSheet"
+        property var shortcuts: []
+        parent: Overlay.overlay
+        anchors.centerIn: parent
+        modal: true
+        title: KeyboardShortcuts.title()
+        width: Math.min(560, window.width - 20)
+        height: Math.min(implicitHeight, window.height - 40)
+        contentItem: ListView {
+            objectName: "shortcutList"
+            implicitHeight: contentHeight
+            clip: true
+            model: shortcutSheet.shortcuts
+            activeFocusOnTab: true
+            focus: true
+            Accessible.role: Accessible.List
+            Accessible.name: shortcutSheet.title
+            ScrollBar.vertical: ScrollBar {}
+            delegate: RowLayout {
+                required property var modelData
+                width: ListView.view.width
+                height: Math.max(32, actionLabel.implicitHeight + 8)
+                spacing: 12
+                Accessible.role: Accessible.ListItem
+                Accessible.name: modelData.keys + ": " + modelData.action
+                Label {
+                    text: modelData.keys
+                    font.bold: true
+                    color: QorTheme.accentText
+                    Layout.preferredWidth: 190
+                    wrapMode: Text.Wrap
+                }
+                Label {
+                    id: actionLabel
+                    text: modelData.action
+                    color: QorTheme.pageText
+                    Layout.fillWidth: true
+                    wrapMode: Text.Wrap
+                }
+            }
+        }
+        footer: DialogButtonBox {
+            Button { text: qsTr("Done"); implicitHeight: QorTheme.touchTarget; DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole }
+        }
         }
     }
 

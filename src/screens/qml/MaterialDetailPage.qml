@@ -3,7 +3,8 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import QOR
 
-// One material: summary, shipping and protection tabs.
+// One material: summary, shipping and protection tabs; in the wide layout the
+// sections side by side, with the isolation distances shown at once.
 Page {
     id: page
     objectName: "materialDetail"
@@ -11,11 +12,68 @@ Page {
     property alias controller: controller
     property alias table: table
     property alias shippingTable: shippingTable
+    // The wide layout: the tablet's detail area, wide enough for columns.
+    readonly property bool wide: AppDelegate.tablet && width >= 600
+    readonly property Item wideColumns: wideLoader.item
+    // The isolation table the units key switches, when one is on screen.
+    readonly property Item unitsTable: wide && wideLoader.item ? wideLoader.item.isolation : null
     title: material ? material.name : ""
     background: Rectangle { color: QorTheme.pageBackground }
 
     MaterialViewController { id: controller }
-    onMaterialChanged: if (material && material.valid) controller.material = material
+    onMaterialChanged: {
+        if (material && material.valid) {
+            controller.material = material
+            if (AppDelegate.tablet)
+                focusRows()
+        }
+    }
+    StackView.onActivated: focusRows()
+    Keys.onPressed: function(event) {
+        if (event.key === Qt.Key_U && event.modifiers === Qt.NoModifier && unitsTable) {
+            unitsTable.toggleUnits()
+            event.accepted = true
+        }
+    }
+
+    // The rows take the keyboard: the tab's table, or the first column.
+    function focusRows() {
+        if (wide && wideColumns)
+            wideColumns.focusColumn(0)
+        else
+            table.forceActiveFocus()
+    }
+    // Ctrl+1..3: the tab on a phone, the column holding that section in the wide layout.
+    function showSection(index) {
+        if (index < 0 || index >= controller.segmentImages.length)
+            return
+        if (wide && wideColumns) {
+            wideColumns.focusColumn(index)
+        } else {
+            controller.selectedViewIndex = index
+            table.forceActiveFocus()
+        }
+    }
+    // Rows without the leading name-and-placard section and its source line.
+    function withoutTop(rows) {
+        var first = rows.length > 0 && rows[0].kind === "top" ? 1 : 0
+        if (first && rows.length > 1 && rows[1].kind === "source")
+            first = 2
+        return rows.slice(first)
+    }
+    // What a tap or Enter on any of this screen's rows does.
+    function activateRow(row) {
+        if (row.kind === "guide")
+            AppDelegate.showGuideForMaterial(row.guideId, page.material)
+        else if (row.kind === "iso")
+            page.openIsolation()
+        else if (row.kind === "entry")
+            page.push("ShippingEntryPage.qml", { attributes: controller.shipping.entryAt(row.index), backText: controller.backTitle })
+        else if (row.kind === "shipping")
+            page.openAction(shippingTable.actionForKey(row.key))
+        else if (row.kind === "ghs")
+            controller.protection.toggleGhsDetails()
+    }
 
     function push(file, props) {
         var stack = page.StackView.view
@@ -35,10 +93,11 @@ Page {
 
     header: BarHeader {
         page: page
-        title: ""
+        title: page.wide ? page.title : ""
         Row {
             id: segments
             objectName: "segments"
+            visible: !page.wide
             spacing: 2
             Repeater {
                 model: controller.segmentImages
@@ -63,6 +122,7 @@ Page {
                     font.pixelSize: 12
                     font.bold: checked
                     Accessible.name: text
+                    Accessible.role: Accessible.PageTab
                     onClicked: controller.selectedViewIndex = index
                     Rectangle {
                         visible: parent.checked
@@ -75,25 +135,83 @@ Page {
         }
     }
 
-    DetailRows {
-        id: table
-        anchors.fill: parent
-        model: controller.rows
+    // Every table of this screen: its rows open, copy and explain alike.
+    component MaterialRows: DetailRows {
         onCopyRequested: function(text) { controller.copyToClipboard(text) }
         onInfoClicked: function(name, title) { page.openInfo(name, title) }
-        onRowClicked: function(row, index) {
-            if (row.kind === "guide")
-                AppDelegate.showGuideForMaterial(row.guideId, page.material)
-            else if (row.kind === "iso")
-                page.openIsolation()
-            else if (row.kind === "entry")
-                page.push("ShippingEntryPage.qml", { attributes: controller.shipping.entryAt(row.index), backText: controller.backTitle })
-            else if (row.kind === "shipping")
-                page.openAction(shippingTable.actionForKey(row.key))
-            else if (row.kind === "ghs")
-                controller.protection.toggleGhsDetails()
-        }
+        onRowClicked: function(row, index) { page.activateRow(row) }
+    }
+
+    MaterialRows {
+        id: table
+        anchors.fill: parent
+        visible: !page.wide
+        model: page.wide ? [] : controller.rows
+        Accessible.name: [qsTr("Summary"), qsTr("Shipping"), qsTr("Protection")][controller.selectedViewIndex] || qsTr("Details")
         // Shipping rows shown inline belong to the material's one entry.
         ShippingTableDelegate { id: shippingTable; attributes: controller.shipping.firstEntry }
+    }
+
+    Loader {
+        id: wideLoader
+        anchors.fill: parent
+        active: page.wide
+        sourceComponent: wideComponent
+        // The columns take over the keys where the tab's rows had them.
+        onLoaded: if (AppDelegate.tablet && AppDelegate.detailMaterial.valid) page.focusRows()
+    }
+
+    // Summary, isolation distances, and shipping with protection, as columns.
+    Component {
+        id: wideComponent
+        RowLayout {
+            objectName: "wideColumns"
+            spacing: 0
+            property alias isolation: isolation
+            readonly property var columns: [summaryColumn, shippingColumn, shippingColumn]
+            function focusColumn(index) {
+                var column = columns[index]
+                column.forceActiveFocus()
+                // Protection follows shipping in the same column.
+                var protectionStart = page.withoutTop(controller.shipping.rows).length
+                if (index === 2 && protectionStart < column.count)
+                    column.currentIndex = protectionStart
+                else if (index === 1)
+                    column.currentIndex = 0
+                column.positionViewAtIndex(Math.max(0, column.currentIndex), ListView.Beginning)
+            }
+            MaterialRows {
+                id: summaryColumn
+                objectName: "summaryColumn"
+                Layout.fillHeight: true
+                Layout.fillWidth: true
+                Layout.preferredWidth: 1
+                model: controller.summary.rows
+                Accessible.name: qsTr("Summary")
+            }
+            Rectangle { Layout.fillHeight: true; Layout.preferredWidth: 1; color: QorTheme.divider }
+            IsolationTable {
+                id: isolation
+                objectName: "isolationColumn"
+                visible: !delegateController.empty
+                Layout.fillHeight: true
+                Layout.fillWidth: true
+                Layout.preferredWidth: 1
+                material: page.material
+                onInfoRequested: function(name, title) { page.openInfo(name, title) }
+            }
+            Rectangle { visible: isolation.visible; Layout.fillHeight: true; Layout.preferredWidth: 1; color: QorTheme.divider }
+            MaterialRows {
+                id: shippingColumn
+                objectName: "shippingColumn"
+                Layout.fillHeight: true
+                Layout.fillWidth: true
+                Layout.preferredWidth: 1
+                // The name and placard head the summary column already.
+                model: page.withoutTop(controller.shipping.rows)
+                       .concat(controller.segmentImages.length > 2 ? controller.protection.rows : [])
+                Accessible.name: qsTr("Shipping") + ", " + qsTr("Protection")
+            }
+        }
     }
 }

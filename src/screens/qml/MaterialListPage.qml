@@ -9,7 +9,14 @@ Page {
     // Rows are made once the tab has been on screen: a hidden tab would
     // otherwise build its first screenful (and render its artwork) at launch.
     property bool shown: false
-    onVisibleChanged: if (visible) shown = true
+    // Shown, the list takes the keys, so typing goes to the search.
+    onVisibleChanged: {
+        if (!visible)
+            return
+        shown = true
+        if (!searchField.activeFocus)
+            listView.forceActiveFocus()
+    }
     objectName: "materialList"
     property alias controller: list
     property alias searchField: searchField
@@ -60,7 +67,17 @@ Page {
             event.accepted = true
         }
     }
-    Shortcut { sequence: StandardKey.Find; onActivated: searchField.forceActiveFocus() }
+    // Ctrl+F or "/" from any screen: back to this list, in the search field.
+    Shortcut {
+        sequences: [StandardKey.Find, "/"]
+        onActivated: {
+            AppDelegate.currentTab = AppDelegate.MaterialsTab
+            if (page.StackView.view)
+                page.StackView.view.pop(null, StackView.Immediate)
+            searchField.forceActiveFocus()
+            searchField.selectAll()
+        }
+    }
 
     header: ToolBar {
         background: Rectangle { color: QorTheme.barBackground }
@@ -201,6 +218,16 @@ Page {
                     Keys.onReturnPressed: page.openRow(index)
                 }
                 Keys.onReturnPressed: page.openRow(currentIndex)
+                Keys.onEnterPressed: page.openRow(currentIndex)
+                // Up from the first result goes back to the search field.
+                Keys.onUpPressed: function(event) {
+                    if (currentIndex <= 0)
+                        searchField.forceActiveFocus()
+                    else
+                        decrementCurrentIndex()
+                }
+                Accessible.role: Accessible.List
+                Accessible.name: list.title
                 ScrollBar.vertical: ScrollBar {}
             }
 
@@ -265,6 +292,8 @@ Page {
                 anchors { right: parent.right; top: parent.top; bottom: parent.bottom }
                 width: QorTheme.touchTarget
                 visible: list.sectionIndex.length > 0
+                Accessible.role: Accessible.ScrollBar
+                Accessible.name: qsTr("Section index")
                 readonly property int entryHeight: 22
                 readonly property var entries: list.sectionIndex.length > 0 ? list.sideIndexEntries(Math.floor(height / entryHeight)) : []
                 property string shownKey: ""

@@ -50,6 +50,7 @@ ItemDelegate {
             color: QorTheme.secondaryText
         }
     }
+    FocusRing { anchors.fill: parent; shown: row.ListView.isCurrentItem && row.ListView.view !== null && row.ListView.view.activeFocus }
     background: Rectangle {
         color: row.highlighted ? QorTheme.rowHighlight : (row.visualFocus ? QorTheme.rowFocus : "transparent")
         border.color: row.visualFocus ? QorTheme.tint : "transparent"

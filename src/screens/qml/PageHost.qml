@@ -8,6 +8,8 @@ Item {
     property var pageView: null
     property real zoom: 1.0
     property alias web: web
+    // The page's name for screen readers.
+    property string title
     signal linkClicked(url url)
     signal loaded(bool ok)
 
@@ -42,6 +44,8 @@ Item {
         id: web
         anchors.fill: parent
         zoomFactor: host.zoom
+        Accessible.role: Accessible.Document
+        Accessible.name: host.title.length > 0 ? host.title : qsTr("Page text")
         backgroundColor: QorTheme.guideBackground
         onLoadingChanged: function(request) {
             if (request.status === WebEngineView.LoadSucceededStatus || request.status === WebEngineView.LoadFailedStatus) {

@@ -14,6 +14,7 @@ Page {
     GuideViewController { id: textSize }
     footer: SourceLine { text: controller.sourceLine }
     PageHost {
+        title: page.title
         anchors.fill: parent
         pageView: controller.pageView
         zoom: textSize.textFontSize / 100

@@ -11,7 +11,9 @@ Page {
     background: Rectangle { color: QorTheme.pageBackground }
     header: BarHeader { page: page; title: page.title }
     ShippingSpecialProvisionsTableDelegate { id: delegate }
+    StackView.onActivated: rows.forceActiveFocus()
     DetailRows {
+        id: rows
         anchors.fill: parent
         model: delegate.rows
         onRowClicked: function(row, index) {

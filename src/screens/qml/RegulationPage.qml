@@ -17,6 +17,8 @@ Page {
     WebEngineView {
         id: web
         anchors.fill: parent
+        Accessible.role: Accessible.Document
+        Accessible.name: page.title.length > 0 ? page.title : qsTr("Page text")
         Component.onCompleted: loadHtml(page.html, "file:///")
     }
 }

@@ -33,6 +33,7 @@ ToolButton {
             Slider {
                 id: slider
                 objectName: "textSizeSlider"
+                Accessible.name: qsTr("Text size")
                 Layout.fillWidth: true
                 implicitHeight: QorTheme.touchTarget
                 from: 65
