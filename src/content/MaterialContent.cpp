@@ -48,7 +48,9 @@ const Caption kSummaryCaptions[] = {
     { QT_TRANSLATE_NOOP("QOR", "Synonyms/Trade Names:"), "syn" },
 };
 
-// Attribute key -> caption of the exposure rows, in numeric-aware caption order.
+} // namespace
+
+// Numeric-aware caption order.
 QList<QPair<QString, QString>> exposureLabels()
 {
     QList<QPair<QString, QString>> labels = {
@@ -61,6 +63,8 @@ QList<QPair<QString, QString>> exposureLabels()
     std::stable_sort(labels.begin(), labels.end(), [](const auto& a, const auto& b) { return compareNumerically(a.second, b.second) < 0; });
     return labels;
 }
+
+namespace {
 
 QString withWaterSuffix(const Material& material, const QString& title)
 {
@@ -387,9 +391,21 @@ ShippingContent shippingContent(QORModel& model, Material& m)
     s.inlineEntry = entries.size() == 1 && hmtEntryIsSameAsMaterialName(entries.first(), m);
     for (const StringMap& e : entries)
         s.entries.append(shippingEntry(e, entries.size() >= 2));
-    // Shipping rows, their stowage wording and section titles.
-    s.source = SourceLine::forTables({ QStringLiteral("hmt"), QStringLiteral("vessel_stowage"), QStringLiteral("hmt_sections") });
+    s.source = shippingSource();
     return s;
+}
+
+SourceLine shippingSource()
+{
+    return SourceLine::forTables({ QStringLiteral("hmt"), QStringLiteral("vessel_stowage"), QStringLiteral("hmt_sections") });
+}
+
+QStringList segmentImages(const ProtectionContent& protection)
+{
+    QStringList images = { QStringLiteral("diamond.pdf"), QStringLiteral("newtruck.pdf") };
+    if (protection.available)
+        images << QStringLiteral("ppe_dust_mask.pdf");
+    return images;
 }
 
 ProtectionContent protectionContent(QORModel& model, Material& m)
@@ -516,9 +532,7 @@ MaterialContent materialContent(QORModel& model, Material& material)
     c.shipping = shippingContent(model, material);
     c.protection = protectionContent(model, material);
     c.isolation = isolationContent(model, material);
-    c.segmentImages = { QStringLiteral("diamond.pdf"), QStringLiteral("newtruck.pdf") };
-    if (c.protection.available)
-        c.segmentImages << QStringLiteral("ppe_dust_mask.pdf");
+    c.segmentImages = segmentImages(c.protection);
     c.backTitle = backTitle(&material);
     return c;
 }

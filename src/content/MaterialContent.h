@@ -166,6 +166,12 @@ IsolationContent isolationContent(QORModel& model, Material& material);
 MaterialContent materialContent(QORModel& model, Material& material);
 
 MaterialOverview materialOverview(QORModel& model, Material& material);
+// The tabs of the detail: summary and shipping, and protection with chemistry data.
+QStringList segmentImages(const ProtectionContent& protection);
+// Attribute key -> caption of the exposure rows, in the order they show.
+QList<QPair<QString, QString>> exposureLabels();
+// Under shipping rows: the table, its stowage wording and section titles.
+SourceLine shippingSource();
 ShippingEntry shippingEntry(const StringMap& attributes, bool withDetail = false);
 // "A1, B2" gives two codes; "A1,B2" one.
 QStringList splitProvisions(const QString& text);

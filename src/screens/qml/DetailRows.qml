@@ -3,11 +3,12 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import QOR
 
-// A sectioned table of controller rows (maps with a "kind"); presents only.
+// A sectioned table of a controller's DetailRowModel; presents only. A
+// chosen row goes back to the controller, which knows what it opens.
 ListView {
     id: table
     property bool dark: Appearance.dark
-    signal rowClicked(var row, int index)
+    signal rowActivated(int index)
     signal infoClicked(string page, string title)
     signal copyRequested(string text)
     clip: true
@@ -17,11 +18,12 @@ ListView {
 
     delegate: Column {
         id: cell
-        required property var modelData
+        required property int kind
+        required property var row
         required property int index
         width: ListView.view.width
         Rectangle {
-            visible: cell.modelData.sectionStart && cell.modelData.header.length > 0
+            visible: cell.row.sectionStart && cell.row.header.length > 0
             width: parent.width
             height: visible ? QorTheme.touchTarget : 0
             color: QorTheme.sectionBackground
@@ -29,14 +31,14 @@ ListView {
                 anchors.verticalCenter: parent.verticalCenter
                 x: 12
                 width: parent.width - 70
-                text: cell.modelData.header
+                text: cell.row.header
                 color: QorTheme.sectionText
                 font.bold: true
                 font.pixelSize: 15
                 elide: Text.ElideRight
             }
             ToolButton {
-                visible: cell.modelData.infoPage.length > 0
+                visible: cell.row.infoPage.length > 0
                 anchors.right: parent.right
                 width: QorTheme.touchTarget
                 height: QorTheme.touchTarget
@@ -44,27 +46,34 @@ ListView {
                 font.pixelSize: 18
                 font.bold: true
                 font.italic: true
-                Accessible.name: qsTr("About %1").arg(cell.modelData.header)
-                onClicked: table.infoClicked(cell.modelData.infoPage, cell.modelData.header)
+                Accessible.name: qsTr("About %1").arg(cell.row.header)
+                onClicked: table.infoClicked(cell.row.infoPage, cell.row.header)
             }
         }
         Loader {
-            property var row: cell.modelData
+            property var row: cell.row
+            property int kind: cell.kind
             width: parent.width
+            // Every kind has its cell; there is no fallback.
             sourceComponent: {
-                switch (cell.modelData.kind) {
-                case "top": return topCell
-                case "nfpa": return nfpaCell
-                case "npg": return npgCell
-                case "ghs": return ghsCell
-                case "iso": return isoCell
-                case "incident": return incidentCell
-                case "source": return sourceCell
-                default: return textCell
+                switch (cell.kind) {
+                case DetailRowModel.Top: return topCell
+                case DetailRowModel.Nfpa: return nfpaCell
+                case DetailRowModel.Npg: return npgCell
+                case DetailRowModel.Ghs: return ghsCell
+                case DetailRowModel.Iso: return isoCell
+                case DetailRowModel.Incident: return incidentCell
+                case DetailRowModel.Source: return sourceCell
+                case DetailRowModel.Guide:
+                case DetailRowModel.Text:
+                case DetailRowModel.Entry:
+                case DetailRowModel.Shipping:
+                case DetailRowModel.Provision: return textCell
                 }
+                return null
             }
         }
-        TapHandler { onTapped: table.rowClicked(cell.modelData, cell.index) }
+        TapHandler { onTapped: table.rowActivated(cell.index) }
     }
 
     Component {
@@ -220,8 +229,8 @@ ListView {
         id: textCell
         Rectangle {
             readonly property var row: parent ? parent.row : ({})
-            readonly property bool opens: ["guide", "entry", "provision"].indexOf(row.kind) >= 0 || (row.kind === "shipping" && row.selectable
-                                            && ["nonBulk", "bulk", "specialProvisions"].indexOf(row.key) >= 0)
+            readonly property int kind: parent ? parent.kind : DetailRowModel.Text
+            readonly property bool opens: row.opens || false
             height: Math.max(QorTheme.touchTarget + 6, textCol.implicitHeight + 16)
             color: QorTheme.pageBackground
             Column {
@@ -232,8 +241,8 @@ ListView {
                 Label {
                     text: row.text || ""
                     color: QorTheme.pageText
-                    font.pixelSize: row.kind === "guide" ? 20 : 15
-                    font.bold: row.kind === "guide" || row.kind === "entry" || row.kind === "provision"
+                    font.pixelSize: kind === DetailRowModel.Guide ? 20 : 15
+                    font.bold: kind === DetailRowModel.Guide || kind === DetailRowModel.Entry || kind === DetailRowModel.Provision
                     wrapMode: Text.Wrap
                     width: parent.width
                 }

@@ -10,27 +10,16 @@ Page {
     property var material
     property alias controller: controller
     property alias table: table
-    property alias shippingTable: shippingTable
     title: material ? material.name : ""
     background: Rectangle { color: QorTheme.pageBackground }
 
     MaterialViewController { id: controller }
     onMaterialChanged: if (material && material.valid) controller.material = material
+    PageRequests { page: page; origin: controller }
 
-    function push(file, props) {
+    function openInfo(name, title) {
         var stack = page.StackView.view
-        if (stack)
-            return stack.push(Qt.resolvedUrl(file).toString(), props)
-        return null
-    }
-    function openInfo(name, title) { return push("InfoPage.qml", { page: name, title: title }) }
-    function openIsolation() { return push("IsolationPage.qml", { material: page.material, backText: controller.backTitle }) }
-    function openAction(action) {
-        if (action.kind === "cfr")
-            return push("RegulationPage.qml", { title: action.title, html: action.html, source: action.source, backText: controller.backTitle })
-        if (action.kind === "provisions")
-            return push("ProvisionsPage.qml", { title: action.title, provisions: action.provisions, headerTitle: action.headerTitle })
-        return null
+        return stack ? stack.push(Qt.resolvedUrl("InfoPage.qml").toString(), { page: name, title: title }) : null
     }
 
     header: BarHeader {
@@ -78,22 +67,9 @@ Page {
     DetailRows {
         id: table
         anchors.fill: parent
-        model: controller.rows
+        model: controller.rowModel
         onCopyRequested: function(text) { controller.copyToClipboard(text) }
         onInfoClicked: function(name, title) { page.openInfo(name, title) }
-        onRowClicked: function(row, index) {
-            if (row.kind === "guide")
-                AppDelegate.showGuideForMaterial(row.guideId, page.material)
-            else if (row.kind === "iso")
-                page.openIsolation()
-            else if (row.kind === "entry")
-                page.push("ShippingEntryPage.qml", { attributes: controller.shipping.entryAt(row.index), backText: controller.backTitle })
-            else if (row.kind === "shipping")
-                page.openAction(shippingTable.actionForKey(row.key))
-            else if (row.kind === "ghs")
-                controller.protection.toggleGhsDetails()
-        }
-        // Shipping rows shown inline belong to the material's one entry.
-        ShippingTableDelegate { id: shippingTable; attributes: controller.shipping.firstEntry }
+        onRowActivated: function(index) { controller.activate(index) }
     }
 }

@@ -11,14 +11,10 @@ Page {
     background: Rectangle { color: QorTheme.pageBackground }
     header: BarHeader { page: page; title: page.title }
     ShippingSpecialProvisionsTableDelegate { id: delegate }
+    PageRequests { page: page; origin: delegate }
     DetailRows {
         anchors.fill: parent
-        model: delegate.rows
-        onRowClicked: function(row, index) {
-            var chosen = delegate.chooseProvision(index)
-            if (page.StackView.view && chosen.category)
-                page.StackView.view.push(Qt.resolvedUrl("ProvisionPage.qml").toString(),
-                                         { category: chosen.category, provision: chosen.provision, title: chosen.title })
-        }
+        model: delegate.rowModel
+        onRowActivated: function(index) { delegate.activate(index) }
     }
 }
