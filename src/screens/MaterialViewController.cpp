@@ -168,6 +168,14 @@ void MaterialViewController::showSelectedRows()
     }
 }
 
+void MaterialViewController::openIsolation()
+{
+    if (m_material)
+        Navigation::sharedInstance()->openPage(this, QStringLiteral("IsolationPage.qml"),
+                                               { { QStringLiteral("material"), QVariant::fromValue(material()) },
+                                                 { QStringLiteral("backText"), backTitle() } });
+}
+
 void MaterialViewController::activate(int index)
 {
     const DetailRowModel::Row* row = m_rowModel->rowAt(index);
@@ -179,8 +187,7 @@ void MaterialViewController::activate(int index)
         navigation->openGuide(row->fields.value(QStringLiteral("guideId")).toString(), material());
         break;
     case DetailRowModel::Iso:
-        navigation->openPage(this, QStringLiteral("IsolationPage.qml"),
-                             { { QStringLiteral("material"), QVariant::fromValue(material()) }, { QStringLiteral("backText"), backTitle() } });
+        openIsolation();
         break;
     case DetailRowModel::Entry:
         navigation->openPage(this, QStringLiteral("ShippingEntryPage.qml"),

@@ -93,6 +93,8 @@ public:
     // isolation table, a shipping entry or its regulation page, or shows
     // more GHS statements. Rows that open nothing do nothing.
     Q_INVOKABLE void activate(int index);
+    // The isolation table of the material, also reached without its row.
+    Q_INVOKABLE void openIsolation();
 
     SummaryTableDelegate* summary() const { return m_summary; }
     ShippingTabViewController* shipping() const { return m_shipping; }

@@ -17,6 +17,7 @@ Page {
     onMaterialChanged: if (material && material.valid) controller.material = material
     PageRequests { page: page; origin: controller }
 
+    function openIsolation() { controller.openIsolation() }
     function openInfo(name, title) {
         var stack = page.StackView.view
         return stack ? stack.push(Qt.resolvedUrl("InfoPage.qml").toString(), { page: name, title: title }) : null
