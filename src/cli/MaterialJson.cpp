@@ -1,5 +1,6 @@
 #include "MaterialJson.h"
 
+#include "content/MaterialContent.h"
 #include "history/HistoryManager.h"
 #include "model/PackManifest.h"
 #include "model/QORModel.h"
@@ -104,6 +105,9 @@ QJsonObject materialJson(QORModel& model, Material& m)
                           { QStringLiteral("placard"), line({ "dot_placards", "placards" }) } });
     o.insert(QStringLiteral("incidentsNote"), PackManifest::activePartialNote(QStringLiteral("incidents")));
     o.insert(QStringLiteral("packNotice"), PackManifest::activeNotice());
+    // The rows the app's detail shows, from the same layer; last, so the keys
+    // above keep the values they always had.
+    o.insert(QStringLiteral("content"), materialContent(model, m).toJson());
     return o;
 }
 

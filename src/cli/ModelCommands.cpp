@@ -51,34 +51,38 @@ void printMaterialText(QTextStream& out, const QJsonObject& o)
     const QString incidentsNote = o.value(QStringLiteral("incidentsNote")).toString();
     if (!incidentsNote.isEmpty())
         out << "    " << incidentsNote << "\n";
-    const QJsonObject iso = o.value(QStringLiteral("isolationDistances")).toObject();
-    for (const QJsonValue& key : o.value(QStringLiteral("isolationConditions")).toArray()) {
-        const QJsonObject r = iso.value(key.toString()).toObject();
-        out << "  Isolation (" << r.value(QStringLiteral("Condition")).toString() << ")\n";
-        for (const char* spill : { "Small", "Large" }) {
-            const QString p = QString::fromLatin1(spill) + QStringLiteral(" Spill ");
-            if (!r.contains(p + QStringLiteral("Initial isolation distance Metric")))
+    // Isolation as the app's table shows it: the material's own condition,
+    // the container table, further conditions; each figure in both units.
+    const QJsonObject content = o.value(QStringLiteral("content")).toObject();
+    const QJsonArray isoSections = content.value(QStringLiteral("isolation")).toObject().value(QStringLiteral("sections")).toArray();
+    const auto both = [](const QJsonValue& metric, const QJsonValue& imperial) { return metric.toString() + " / " + imperial.toString(); };
+    for (const QJsonValue& v : isoSections) {
+        const QJsonObject s = v.toObject();
+        const QJsonObject metric = s.value(QStringLiteral("metric")).toObject();
+        const QJsonObject imperial = s.value(QStringLiteral("imperial")).toObject();
+        if (s.value(QStringLiteral("kind")).toString() == QLatin1String("container")) {
+            const QJsonArray md = metric.value(QStringLiteral("day")).toArray(), id = imperial.value(QStringLiteral("day")).toArray();
+            const QJsonArray mn = metric.value(QStringLiteral("night")).toArray(), in = imperial.value(QStringLiteral("night")).toArray();
+            if (md.size() < 3 || id.size() < 3 || mn.size() < 3 || in.size() < 3)
                 continue;
-            out << "    " << spill << " spill: isolate " << r.value(p + QStringLiteral("Initial isolation distance Metric")).toString()
-                << " m / " << r.value(p + QStringLiteral("Initial isolation distance Imp")).toString() << " ft; protect day "
-                << r.value(p + QStringLiteral("Protect distance Day Metric")).toString() << " km / "
-                << r.value(p + QStringLiteral("Protect distance Day Imp")).toString() << " mi; night "
-                << r.value(p + QStringLiteral("Protect distance Night Metric")).toString() << " km / "
-                << r.value(p + QStringLiteral("Protect distance Night Imp")).toString() << " mi\n";
+            out << "  Large spill, " << s.value(QStringLiteral("title")).toString() << ": isolate "
+                << both(metric.value(QStringLiteral("isolate")), imperial.value(QStringLiteral("isolate"))) << "; day low/moderate/high wind "
+                << both(md.at(0), id.at(0)) << ", " << both(md.at(1), id.at(1)) << ", " << both(md.at(2), id.at(2)) << "; night "
+                << both(mn.at(0), in.at(0)) << ", " << both(mn.at(1), in.at(1)) << ", " << both(mn.at(2), in.at(2)) << "\n";
+            continue;
+        }
+        out << "  Isolation (" << s.value(QStringLiteral("title")).toString() << ")\n";
+        for (const char* spill : { "Small", "Large" }) {
+            const QString key = QString::fromLatin1(spill).toLower();
+            if (!metric.contains(key))
+                continue;
+            const QJsonObject m = metric.value(key).toObject(), i = imperial.value(key).toObject();
+            out << "    " << spill << " spill: isolate " << both(m.value(QStringLiteral("isolate")), i.value(QStringLiteral("isolate")))
+                << "; protect day " << both(m.value(QStringLiteral("day")), i.value(QStringLiteral("day"))) << "; night "
+                << both(m.value(QStringLiteral("night")), i.value(QStringLiteral("night"))) << "\n";
         }
     }
-    for (const QJsonValue& c : o.value(QStringLiteral("largeSpillContainers")).toArray()) {
-        const QJsonArray f = c.toObject().value(QStringLiteral("figures")).toArray();
-        if (f.size() < 14)
-            continue;
-        auto pair = [&](int i, const char* metric, const char* imperial) {
-            return QStringLiteral("%1 %2 / %3 %4").arg(f.at(i).toString(), QLatin1String(metric), f.at(i + 1).toString(), QLatin1String(imperial));
-        };
-        out << "  Large spill, " << c.toObject().value(QStringLiteral("container")).toString() << ": isolate " << pair(0, "m", "ft")
-            << "; day low/moderate/high wind " << pair(2, "km", "mi") << ", " << pair(4, "km", "mi") << ", " << pair(6, "km", "mi")
-            << "; night " << pair(8, "km", "mi") << ", " << pair(10, "km", "mi") << ", " << pair(12, "km", "mi") << "\n";
-    }
-    if (!iso.isEmpty())
+    if (!isoSections.isEmpty())
         source("isolation");
     const QString summary = o.value(QStringLiteral("incidentsSummary")).toString();
     if (!summary.isEmpty()) {
@@ -106,15 +110,16 @@ void printMaterialText(QTextStream& out, const QJsonObject& o)
     }
     if (chemistry)
         source("chemistry");
-    const QJsonArray entries = o.value(QStringLiteral("hmtEntries")).toArray();
+    const QJsonArray entries = content.value(QStringLiteral("shipping")).toObject().value(QStringLiteral("entries")).toArray();
     for (const QJsonValue& e : entries) {
         const QJsonObject entry = e.toObject();
+        QMap<QString, QString> text;
+        for (const QJsonValue& r : entry.value(QStringLiteral("rows")).toArray())
+            text.insert(r.toObject().value(QStringLiteral("key")).toString(), r.toObject().value(QStringLiteral("text")).toString());
         out << "  Shipping: " << entry.value(QStringLiteral("name")).toString();
-        const QString group = entry.value(QStringLiteral("packingGroup")).toString();
-        if (!group.isEmpty())
-            out << ", packing group " << group;
-        out << "; non-bulk " << entry.value(QStringLiteral("nonBulk")).toString() << ", bulk "
-            << entry.value(QStringLiteral("bulk")).toString() << "\n";
+        if (text.value(QStringLiteral("packingGroup")) != L::tr("None"))
+            out << ", packing group " << text.value(QStringLiteral("packingGroup"));
+        out << "; non-bulk " << text.value(QStringLiteral("nonBulk")) << ", bulk " << text.value(QStringLiteral("bulk")) << "\n";
     }
     if (!entries.isEmpty())
         source("shipping");

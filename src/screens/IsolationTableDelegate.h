@@ -2,6 +2,7 @@
 // The isolation distance tables of one material: a section per spill
 // condition and, for six gases, the large-spill table by container and wind.
 #include "MaterialRef.h"
+#include "content/MaterialContent.h"
 #include "model/OrderedMap.h"
 
 #include <QObject>
@@ -54,17 +55,14 @@ public:
     QString titleForSection(int section) const;
 
     // Cell texts for one condition record or one container row, in the given units.
-    static QVariantMap conditionCell(const QMap<QString, QString>& record, int units);
-    static QVariantMap largeSpillCell(const QString& row, int units);
+    static QVariantMap conditionCell(const ConditionFigures& figures);
+    static QVariantMap largeSpillCell(const ContainerFigures& figures);
+    static QVariantMap largeSpillCell(const QString& row, int units) { return largeSpillCell(containerFigures(row, qor::Units(units))); }
 
     Q_INVOKABLE void infoButtonClicked();
     // The pack's day and night artwork; empty when the pack has none.
     static QUrl dayIcon();
     static QUrl nightIcon();
-
-    // "TIH Gas Produced: ..." or "TIH Gases Produced: ..." from the material's
-    // hazard text; empty when the text is empty or just "X".
-    static QString tihProducedText(const Material& material);
 
 signals:
     void materialChanged();
@@ -73,7 +71,6 @@ signals:
 
 private:
     void reloadData();
-    QString withWaterSuffix(const QString& title) const;
 
     MaterialRef m_material;
     QVariantList m_sections;

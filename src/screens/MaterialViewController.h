@@ -2,6 +2,7 @@
 // The material detail screen: a summary, a shipping and (with chemistry data)
 // a protection tab, switched by a segmented control.
 #include "MaterialRef.h"
+#include "DetailRowModel.h"
 #include "ShippingControllers.h"
 
 #include <QObject>
@@ -11,31 +12,22 @@
 
 namespace qor {
 
-// The material as the top cell of the summary and shipping tabs show it.
-QVariantMap materialOverviewRow(Material& material);
-// The tables that top cell shows values of, for its source line.
-QStringList materialOverviewTables();
-
 class SummaryTableDelegate : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by MaterialViewController")
-    Q_PROPERTY(QVariantList rows READ rows NOTIFY rowsChanged)
 public:
     using QObject::QObject;
     void setMaterial(const MaterialPtr& material);
-    QVariantList rows() const { return m_rows; }
+    const DetailRowModel::Rows& detailRows() const { return m_rows; }
+    QVariantList rows() const { return DetailRowModel::maps(m_rows); }
     int numberOfSections() const { return m_sections; }
-    // Key -> text, in display order.
-    const QList<QPair<QString, QString>>& availableAttributes() const { return m_available; }
 
 signals:
     void rowsChanged();
 
 private:
-    MaterialPtr m_material;
-    QList<QPair<QString, QString>> m_available;
-    QVariantList m_rows;
+    DetailRowModel::Rows m_rows;
     int m_sections = 0;
 };
 
@@ -43,14 +35,14 @@ class ProtectionTableDelegate : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by MaterialViewController")
-    Q_PROPERTY(QVariantList rows READ rows NOTIFY rowsChanged)
 public:
-    explicit ProtectionTableDelegate(QObject* parent = nullptr);
+    using QObject::QObject;
     void setMaterial(const MaterialPtr& material);
-    QVariantList rows() const { return m_rows; }
-    // Attribute key -> caption; the keys that decide whether the tab exists.
-    const QList<QPair<QString, QString>>& labels() const { return m_labels; }
-    const QStringList& keys() const { return m_keys; }
+    const ProtectionContent& content() const { return m_content; }
+    const DetailRowModel::Rows& detailRows() const { return m_rows; }
+    QVariantList rows() const { return DetailRowModel::maps(m_rows); }
+    // The attribute keys of the exposure rows shown.
+    QStringList keys() const;
     // Touching the GHS row shows or hides its statements.
     Q_INVOKABLE void toggleGhsDetails();
 
@@ -60,10 +52,8 @@ signals:
 private:
     void rebuildRows();
 
-    MaterialPtr m_material;
-    QList<QPair<QString, QString>> m_labels;
-    QStringList m_keys;
-    QVariantList m_rows;
+    ProtectionContent m_content;
+    DetailRowModel::Rows m_rows;
     bool m_ghsExpanded = false;
 };
 
@@ -75,7 +65,11 @@ class MaterialViewController : public QObject {
     Q_PROPERTY(QStringList segmentImages READ segmentImages NOTIFY materialChanged)
     Q_PROPERTY(int segmentWidth READ segmentWidth NOTIFY materialChanged)
     Q_PROPERTY(QString backTitle READ backTitle NOTIFY materialChanged)
-    Q_PROPERTY(QVariantList rows READ rows NOTIFY rowsChanged)
+    Q_PROPERTY(qor::DetailRowModel* rowModel READ rowModel CONSTANT)
+    // The wide layout's columns: the summary, and shipping followed by protection.
+    Q_PROPERTY(qor::DetailRowModel* summaryRowModel READ summaryRowModel CONSTANT)
+    Q_PROPERTY(qor::DetailRowModel* sideRowModel READ sideRowModel CONSTANT)
+    Q_PROPERTY(int protectionRowStart READ protectionRowStart NOTIFY rowsChanged)
     Q_PROPERTY(qor::SummaryTableDelegate* summary READ summary CONSTANT)
     Q_PROPERTY(qor::ShippingTabViewController* shipping READ shipping CONSTANT)
     Q_PROPERTY(qor::ProtectionTableDelegate* protection READ protection CONSTANT)
@@ -97,7 +91,20 @@ public:
     // Back button text of screens pushed from here.
     QString backTitle() const;
     // The rows of the selected tab.
-    QVariantList rows() const;
+    DetailRowModel* rowModel() const { return m_rowModel; }
+    QVariantList rows() const { return DetailRowModel::maps(m_rowModel->rows()); }
+    // What choosing a row of the selected tab does: opens the guide, the
+    // isolation table, a shipping entry or its regulation page, or shows
+    // more GHS statements. Rows that open nothing do nothing.
+    Q_INVOKABLE void activate(int index) { activateIn(m_rowModel, index); }
+    // The same for a row of any of this screen's tables.
+    Q_INVOKABLE void activateIn(qor::DetailRowModel* model, int index);
+    DetailRowModel* summaryRowModel() const { return m_summaryRowModel; }
+    DetailRowModel* sideRowModel() const { return m_sideRowModel; }
+    // Where protection starts in the side column.
+    int protectionRowStart() const { return m_protectionRowStart; }
+    // The isolation table of the material, also reached without its row.
+    Q_INVOKABLE void openIsolation();
 
     SummaryTableDelegate* summary() const { return m_summary; }
     ShippingTabViewController* shipping() const { return m_shipping; }
@@ -111,8 +118,14 @@ signals:
     void rowsChanged();
 
 private:
+    void showSelectedRows();
+
     MaterialPtr m_material;
     QStringList m_segmentImages;
+    DetailRowModel* m_rowModel;
+    DetailRowModel* m_summaryRowModel;
+    DetailRowModel* m_sideRowModel;
+    int m_protectionRowStart = 0;
     SummaryTableDelegate* m_summary;
     ShippingTabViewController* m_shipping;
     ProtectionTableDelegate* m_protection;

@@ -40,22 +40,41 @@ TestCase {
         return page
     }
 
-    function rowOfKind(page, kind) {
-        var rows = page.controller.rows
+    function rowsOf(page) {
+        var model = page.controller.rowModel
+        var rows = []
+        for (var i = 0; i < model.count; ++i)
+            rows.push(model.get(i))
+        return rows
+    }
+    function indexOfKind(page, kind, key) {
+        var rows = rowsOf(page)
         for (var i = 0; i < rows.length; ++i)
-            if (rows[i].kind === kind)
-                return rows[i]
-        return null
+            if (rows[i].kind === kind && (key === undefined || rows[i].key === key))
+                return i
+        return -1
+    }
+    function rowOfKind(page, kind) {
+        var i = indexOfKind(page, kind)
+        return i >= 0 ? rowsOf(page)[i] : null
+    }
+
+    function clickRow(table, row) {
+        table.positionViewAtIndex(row, ListView.Center)
+        waitForRendering(table)
+        var cell = table.itemAtIndex(row)
+        verify(cell, "row " + row + " is shown")
+        mouseClick(cell)
     }
 
     function test_tabsSwitchTheRows() {
         var page = openMaterial("1005")
         mouseClick(findChild(page, "segment0"))
-        verify(rowOfKind(page, "guide"))
+        verify(rowOfKind(page, DetailRowModel.Guide))
         mouseClick(findChild(page, "segment1"))
         compare(page.controller.selectedViewIndex, 1)
-        verify(rowOfKind(page, "incident"), "the shipping tab shows the incident summary")
-        tryVerify(function() { return page.table.count === page.controller.rows.length })
+        verify(rowOfKind(page, DetailRowModel.Incident), "the shipping tab shows the incident summary")
+        tryVerify(function() { return page.table.count === page.controller.rowModel.count })
         mouseClick(findChild(page, "segment0"))
     }
 
@@ -83,8 +102,8 @@ TestCase {
     function test_sourceLinesUnderEverySection() {
         var page = openMaterial("1090")
         mouseClick(findChild(page, "segment1"))
-        tryVerify(function() { return page.table.count === page.controller.rows.length })
-        var sourceRows = page.controller.rows.filter(function(r) { return r.kind === "source" })
+        tryVerify(function() { return page.table.count === page.controller.rowModel.count })
+        var sourceRows = rowsOf(page).filter(function(r) { return r.kind === DetailRowModel.Source })
         compare(sourceRows.length, 3, "top, incidents and shipping sections")
         // Rows below the fold are made only when scrolled to: check each
         // source line where it is shown.
@@ -114,9 +133,11 @@ TestCase {
 
     function test_isolationUnits() {
         var page = openMaterial("1005")
-        var iso = page.openIsolation()
+        page.controller.activate(indexOfKind(page, DetailRowModel.Iso))
         tryCompare(stack(), "busy", false)
-        compare(stack().currentItem.objectName, "isolationPage")
+        var iso = stack().currentItem
+        compare(iso.objectName, "isolationPage")
+        compare(iso.backText, "UN1005")
         var table = iso.table
         var metric = findChild(iso, "units1")
         verify(metric)
@@ -148,15 +169,33 @@ TestCase {
         var page = openMaterial("1005")
         var entry = page.controller.shipping.entryAt(0)
         verify(entry.nonBulk, "the pack has a shipping entry for 1005")
-        var table = page.shippingTable
-        compare(table.attributes.name, entry.name)
-        var action = table.actionForKey("nonBulk")
-        compare(action.kind, "cfr")
-        verify(action.html.indexOf("<body>") > 0)
-        var regulation = page.openAction(action)
+        mouseClick(findChild(page, "segment1"))
+        // Clicks on the rows, as a user makes them: the entry, then its row.
+        var table = page.table
+        var controller = page.controller
+        var row = indexOfKind(page, DetailRowModel.Shipping, "nonBulk")
+        if (row < 0) {
+            row = indexOfKind(page, DetailRowModel.Entry)
+            verify(row >= 0, "an entry row or the entry's own rows")
+            clickRow(table, row)
+            tryCompare(stack(), "busy", false)
+            compare(stack().currentItem.objectName, "shippingEntry")
+            compare(stack().currentItem.title, entry.name)
+            table = stack().currentItem.table
+            controller = stack().currentItem.controller
+            row = -1
+            for (var i = 0; i < controller.rowModel.count && row < 0; ++i)
+                if (controller.rowModel.get(i).key === "nonBulk")
+                    row = i
+        }
+        clickRow(table, row)
         tryCompare(stack(), "busy", false)
-        compare(stack().currentItem.objectName, "regulationPage")
+        var regulation = stack().currentItem
+        compare(regulation.objectName, "regulationPage")
         compare(regulation.title, "49CFR § 173." + entry.nonBulk.replace(/ /g, ""))
+        verify(regulation.html.indexOf("<body>") > 0)
+        stack().pop(page, StackView.Immediate)
+        mouseClick(findChild(page, "segment0"))
     }
 
     function openGuide(guideId) {

@@ -3,6 +3,7 @@
 
 #include "AppLinks.h"
 #include "MaterialViewController.h"
+#include "Navigation.h"
 #include "ShippingControllers.h"
 #include "model/Device.h"
 #include "model/QORModel.h"
@@ -10,6 +11,7 @@
 
 #include <QDir>
 #include <QSet>
+#include <QSignalSpy>
 #include <gtest/gtest.h>
 
 using namespace qor;
@@ -116,8 +118,9 @@ TEST_F(DetailTest, SummaryRowsAndTheNfpaSectionOnPhonesOnly)
     EXPECT_EQ(rowOfKind(summary.rows(), "guide").value("text"), "Guide 125");
 
     QStringList keys;
-    for (const auto& a : summary.availableAttributes())
-        keys << a.first;
+    for (const QVariantMap& r : rowsOf(summary.rows()))
+        if (r.value("kind") == "iso" || r.value("kind") == "text")
+            keys << r.value("key", "ISO").toString();
     EXPECT_EQ(keys, QStringList({ "ISO", "toxicInhalationHazard", "physDesc" }));
     const QVariantMap iso = rowOfKind(summary.rows(), "iso");
     EXPECT_EQ(iso.value("title"), "Isolation Distances") << "the default condition keeps the plain title";
@@ -150,16 +153,6 @@ TEST_F(DetailTest, ShippingRowsProvisionsAndPart173Pages)
     EXPECT_EQ(rows.at(2).value("header"), "Shipping Regulations");
     EXPECT_EQ(rows.at(2).value("text"), "None") << "no packing group";
 
-    ShippingTableDelegate entry;
-    entry.setAttributes(model->getHmtEntriesForMaterial(*material("1005").ptr).first());
-    const QVariantMap provisions = entry.actionForKey("specialProvisions");
-    EXPECT_EQ(provisions.value("provisions").toStringList(), QStringList({ "A1", "B2" }));
-    EXPECT_EQ(provisions.value("headerTitle"), "Ammonia, anhydrous");
-    const QVariantMap page = entry.actionForKey("nonBulk");
-    EXPECT_EQ(page.value("title"), "49CFR § 173.203") << "blanks removed";
-    EXPECT_TRUE(page.value("html").toString().contains("Non-bulk packagings for liquids"));
-    EXPECT_TRUE(entry.actionForKey("loc").isEmpty());
-
     tab.setMaterial(material("1090").ptr);
     QList<QVariantMap> entries;
     for (const QVariantMap& r : rowsOf(tab.rows()))
@@ -168,8 +161,6 @@ TEST_F(DetailTest, ShippingRowsProvisionsAndPart173Pages)
     ASSERT_EQ(entries.size(), 2);
     EXPECT_EQ(entries.at(0).value("detail"), "Packing Group:  II Medium Danger");
     EXPECT_EQ(entries.at(1).value("detail"), "Packing Group:  III Minor Danger");
-    entry.setAttributesMap(tab.entryAt(0));
-    EXPECT_EQ(entry.actionForKey("specialProvisions").value("provisions").toStringList(), QStringList({ "A1,B2" }));
 
     ShippingSpecialProvisionsTableDelegate list;
     list.setProvisions({ "IB3", "128" });
@@ -178,12 +169,105 @@ TEST_F(DetailTest, ShippingRowsProvisionsAndPart173Pages)
     EXPECT_EQ(list.chooseProvision(1).value("category"), "numeric");
 }
 
+namespace {
+
+// The index of the first row of a kind (and key), or -1.
+int indexOfKind(const QVariantList& rows, const QString& kind, const QString& key = QString())
+{
+    for (int i = 0; i < rows.size(); ++i)
+        if (rows.at(i).toMap().value("kind") == kind && (key.isEmpty() || rows.at(i).toMap().value("key") == key))
+            return i;
+    return -1;
+}
+
+// What choosing a row asked the navigation for: {file, properties} of the
+// one page requested by origin, or empty when nothing was opened.
+struct Opened {
+    QString file;
+    QVariantMap properties;
+};
+template <typename Activate>
+Opened activated(QObject* origin, Activate activate)
+{
+    QSignalSpy spy(Navigation::sharedInstance(), &Navigation::pageRequested);
+    activate();
+    if (spy.isEmpty())
+        return {};
+    EXPECT_EQ(spy.size(), 1);
+    EXPECT_EQ(spy.first().at(0).value<QObject*>(), origin) << "pushed by the page that asked";
+    return { spy.first().at(1).toString(), spy.first().at(2).toMap() };
+}
+
+} // namespace
+
+// Choosing a row: one C++ place decides what it opens, for every row kind.
+TEST_F(DetailTest, ChoosingARowOpensWhatItNames)
+{
+    MaterialViewController screen;
+    screen.setMaterialGuide(material("1005"));
+    screen.setSelectedViewIndex(MaterialViewController::SummaryTab);
+    QSignalSpy guides(Navigation::sharedInstance(), &Navigation::guideRequested);
+    screen.activate(indexOfKind(screen.rows(), "guide"));
+    ASSERT_EQ(guides.size(), 1);
+    EXPECT_EQ(guides.first().at(0), "125");
+    EXPECT_EQ(guides.first().at(1).value<MaterialRef>(), material("1005"));
+
+    Opened o = activated(&screen, [&] { screen.activate(indexOfKind(screen.rows(), "iso")); });
+    EXPECT_EQ(o.file, "IsolationPage.qml");
+    EXPECT_EQ(o.properties.value("material").value<MaterialRef>(), material("1005"));
+    EXPECT_EQ(o.properties.value("backText"), "UN1005");
+    EXPECT_TRUE(activated(&screen, [&] { screen.activate(indexOfKind(screen.rows(), "text")); }).file.isEmpty());
+    EXPECT_TRUE(activated(&screen, [&] { screen.activate(0); }).file.isEmpty()) << "the top cell opens nothing";
+    EXPECT_TRUE(activated(&screen, [&] { screen.activate(-1); }).file.isEmpty());
+
+    // The one entry's rows, inline.
+    screen.setSelectedViewIndex(MaterialViewController::ShippingTab);
+    o = activated(&screen, [&] { screen.activate(indexOfKind(screen.rows(), "shipping", "nonBulk")); });
+    EXPECT_EQ(o.file, "RegulationPage.qml");
+    EXPECT_EQ(o.properties.value("title"), "49CFR § 173.203") << "blanks removed";
+    EXPECT_TRUE(o.properties.value("html").toString().contains("Non-bulk packagings for liquids"));
+    EXPECT_EQ(o.properties.value("backText"), "UN1005");
+    o = activated(&screen, [&] { screen.activate(indexOfKind(screen.rows(), "shipping", "specialProvisions")); });
+    EXPECT_EQ(o.file, "ProvisionsPage.qml");
+    EXPECT_EQ(o.properties.value("provisions").toStringList(), QStringList({ "A1", "B2" }));
+    EXPECT_EQ(o.properties.value("headerTitle"), "Ammonia, anhydrous");
+    EXPECT_TRUE(activated(&screen, [&] { screen.activate(indexOfKind(screen.rows(), "shipping", "packingGroup")); }).file.isEmpty())
+        << "an empty value opens nothing";
+    EXPECT_TRUE(activated(&screen, [&] { screen.activate(indexOfKind(screen.rows(), "shipping", "loc")); }).file.isEmpty());
+
+    screen.setSelectedViewIndex(MaterialViewController::ProtectionTab);
+    screen.activate(indexOfKind(screen.rows(), "ghs"));
+    EXPECT_TRUE(rowOfKind(screen.rows(), "ghs").value("expanded").toBool()) << "the GHS row shows all its statements";
+
+    // Several entries: each row opens its entry, whose rows open their pages.
+    screen.setMaterialGuide(material("1090"));
+    screen.setSelectedViewIndex(MaterialViewController::ShippingTab);
+    const int second = indexOfKind(screen.rows(), "entry") + 1;
+    o = activated(&screen, [&] { screen.activate(second); });
+    EXPECT_EQ(o.file, "ShippingEntryPage.qml");
+    EXPECT_EQ(o.properties.value("attributes").toMap().value("name"), "Acetone solution");
+    ShippingTableDelegate entry;
+    entry.setAttributesMap(o.properties.value("attributes").toMap());
+    o = activated(&entry, [&] { entry.activate(indexOfKind(entry.rows(), "shipping", "bulk")); });
+    EXPECT_EQ(o.file, "RegulationPage.qml");
+    EXPECT_FALSE(o.properties.contains("backText")) << "the regulation page keeps its own";
+    entry.setAttributesMap(screen.shipping()->entryAt(0));
+    o = activated(&entry, [&] { entry.activate(indexOfKind(entry.rows(), "shipping", "specialProvisions")); });
+    EXPECT_EQ(o.properties.value("provisions").toStringList(), QStringList({ "A1,B2" })) << "codes split at \", \" only";
+
+    ShippingSpecialProvisionsTableDelegate list;
+    list.setProvisions({ "IB3" });
+    o = activated(&list, [&] { list.activate(0); });
+    EXPECT_EQ(o.file, "ProvisionPage.qml");
+    EXPECT_EQ(o.properties.value("provision"), "IB3");
+}
+
 TEST_F(DetailTest, ProtectionTabCellsAndCopyTexts)
 {
     ProtectionTableDelegate tab;
     tab.setMaterial(material("1005").ptr);
     EXPECT_EQ(tab.keys(), QStringList({ "CameoHazardText" })) << "no IDLH value";
-    EXPECT_EQ(tab.labels().first().second, "Exposure:") << "ordered by caption";
+    EXPECT_EQ(exposureLabels().first().second, "Exposure:") << "ordered by caption";
     const QVariantMap npg = rowOfKind(tab.rows(), "npg");
     EXPECT_EQ(npg.value("copyText"), "Ammonia, Anhydrous\nNH₃\nCAS#: 7664-41-7");
     const QVariantMap ghs = rowOfKind(tab.rows(), "ghs");
@@ -193,8 +277,7 @@ TEST_F(DetailTest, ProtectionTabCellsAndCopyTexts)
     tab.toggleGhsDetails();
     EXPECT_TRUE(rowOfKind(tab.rows(), "ghs").value("expanded").toBool());
 
-    const QVariantMap top = materialOverviewRow(*material("1005").ptr);
-    EXPECT_TRUE(top.value("copyText").toString().startsWith("Ammonia, Anhydrous\nUN1005\nHazard Class "));
+    EXPECT_TRUE(materialOverview(*model, *material("1005").ptr).copyText.startsWith("Ammonia, Anhydrous\nUN1005\nHazard Class "));
 }
 
 TEST_F(DetailTest, EverySectionInfoButtonOpensAPageOfThePack)

@@ -45,7 +45,7 @@ Page {
                 linkColor: QorTheme.tintText
                 onLinkActivated: function(link) {
                     var name = link.replace(/\.html$/, "")
-                    window.openInfoPage(name, name === "howto" ? qsTr("HOW TO USE THE GUIDEBOOK") : name, name !== "howto", AppDelegate.tablet)
+                    Navigation.openInfoPage(name, name === "howto" ? qsTr("HOW TO USE THE GUIDEBOOK") : name, name !== "howto", AppDelegate.tablet)
                 }
             }
 

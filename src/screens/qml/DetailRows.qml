@@ -3,11 +3,12 @@ import QtQuick.Controls
 import QtQuick.Layouts
 import QOR
 
-// A sectioned table of controller rows (maps with a "kind"); presents only.
+// A sectioned table of a controller's DetailRowModel; presents only. A
+// chosen row goes back to the controller, which knows what it opens.
 ListView {
     id: table
     property bool dark: Appearance.dark
-    signal rowClicked(var row, int index)
+    signal rowActivated(int index)
     signal infoClicked(string page, string title)
     signal copyRequested(string text)
     clip: true
@@ -29,13 +30,13 @@ ListView {
     // Taps and keys open a row through here alike.
     function activate(index) {
         if (index >= 0 && index < count)
-            table.rowClicked(model[index], index)
+            table.rowActivated(index)
     }
     // A row's name for screen readers: its visible texts in reading order.
-    function rowName(row) {
+    function rowName(row, kind) {
         var parts = [row.header && row.sectionStart ? row.header : "", row.caption, row.name, row.unId, row.title, row.subtitle,
                      row.text, row.detail, row.note]
-        if (row.kind === "ghs")
+        if (kind === DetailRowModel.Ghs)
             parts.push(row.expanded ? qsTr("Show less") : qsTr("Show all %1 statements").arg(row.statements.length))
         return parts.filter(function(p) { return p !== undefined && p !== null && String(p).length > 0 }).join(", ")
     }
@@ -44,15 +45,17 @@ ListView {
     Keys.onPressed: function(event) {
         if (event.modifiers !== Qt.ControlModifier || currentIndex < 0 || currentIndex >= count)
             return
-        if (event.key === Qt.Key_C && model[currentIndex].copyText) {
-            table.copyRequested(model[currentIndex].copyText)
+        var row = model.get(currentIndex)
+        if (event.key === Qt.Key_C && row.copyText) {
+            table.copyRequested(row.copyText)
             event.accepted = true
         } else if (event.key === Qt.Key_I) {
             var start = currentIndex
-            while (start > 0 && !model[start].sectionStart)
+            while (start > 0 && !model.get(start).sectionStart)
                 --start
-            if (model[start].infoPage) {
-                table.infoClicked(model[start].infoPage, model[start].header)
+            var first = model.get(start)
+            if (first.infoPage) {
+                table.infoClicked(first.infoPage, first.header)
                 event.accepted = true
             }
         }
@@ -80,13 +83,14 @@ ListView {
 
     delegate: Column {
         id: cell
-        required property var modelData
+        required property int kind
+        required property var row
         required property int index
         width: ListView.view.width
         Accessible.role: Accessible.ListItem
-        Accessible.name: table.rowName(modelData)
+        Accessible.name: table.rowName(cell.row, cell.kind)
         Rectangle {
-            visible: cell.modelData.sectionStart && cell.modelData.header.length > 0
+            visible: cell.row.sectionStart && cell.row.header.length > 0
             width: parent.width
             height: visible ? QorTheme.touchTarget : 0
             color: QorTheme.sectionBackground
@@ -94,14 +98,14 @@ ListView {
                 anchors.verticalCenter: parent.verticalCenter
                 x: 12
                 width: parent.width - 70
-                text: cell.modelData.header
+                text: cell.row.header
                 color: QorTheme.sectionText
                 font.bold: true
                 font.pixelSize: 15
                 elide: Text.ElideRight
             }
             ToolButton {
-                visible: cell.modelData.infoPage.length > 0
+                visible: cell.row.infoPage.length > 0
                 anchors.right: parent.right
                 width: QorTheme.touchTarget
                 height: QorTheme.touchTarget
@@ -109,24 +113,31 @@ ListView {
                 font.pixelSize: 18
                 font.bold: true
                 font.italic: true
-                Accessible.name: qsTr("About %1").arg(cell.modelData.header)
-                onClicked: table.infoClicked(cell.modelData.infoPage, cell.modelData.header)
+                Accessible.name: qsTr("About %1").arg(cell.row.header)
+                onClicked: table.infoClicked(cell.row.infoPage, cell.row.header)
             }
         }
         Loader {
-            property var row: cell.modelData
+            property var row: cell.row
+            property int kind: cell.kind
             width: parent.width
+            // Every kind has its cell; there is no fallback.
             sourceComponent: {
-                switch (cell.modelData.kind) {
-                case "top": return topCell
-                case "nfpa": return nfpaCell
-                case "npg": return npgCell
-                case "ghs": return ghsCell
-                case "iso": return isoCell
-                case "incident": return incidentCell
-                case "source": return sourceCell
-                default: return textCell
+                switch (cell.kind) {
+                case DetailRowModel.Top: return topCell
+                case DetailRowModel.Nfpa: return nfpaCell
+                case DetailRowModel.Npg: return npgCell
+                case DetailRowModel.Ghs: return ghsCell
+                case DetailRowModel.Iso: return isoCell
+                case DetailRowModel.Incident: return incidentCell
+                case DetailRowModel.Source: return sourceCell
+                case DetailRowModel.Guide:
+                case DetailRowModel.Text:
+                case DetailRowModel.Entry:
+                case DetailRowModel.Shipping:
+                case DetailRowModel.Provision: return textCell
                 }
+                return null
             }
         }
         TapHandler { onTapped: { table.currentIndex = cell.index; table.activate(cell.index) } }
@@ -285,8 +296,8 @@ ListView {
         id: textCell
         Rectangle {
             readonly property var row: parent ? parent.row : ({})
-            readonly property bool opens: ["guide", "entry", "provision"].indexOf(row.kind) >= 0 || (row.kind === "shipping" && row.selectable
-                                            && ["nonBulk", "bulk", "specialProvisions"].indexOf(row.key) >= 0)
+            readonly property int kind: parent ? parent.kind : DetailRowModel.Text
+            readonly property bool opens: row.opens || false
             height: Math.max(QorTheme.touchTarget + 6, textCol.implicitHeight + 16)
             color: QorTheme.pageBackground
             Column {
@@ -297,8 +308,8 @@ ListView {
                 Label {
                     text: row.text || ""
                     color: QorTheme.pageText
-                    font.pixelSize: row.kind === "guide" ? 20 : 15
-                    font.bold: row.kind === "guide" || row.kind === "entry" || row.kind === "provision"
+                    font.pixelSize: kind === DetailRowModel.Guide ? 20 : 15
+                    font.bold: kind === DetailRowModel.Guide || kind === DetailRowModel.Entry || kind === DetailRowModel.Provision
                     wrapMode: Text.Wrap
                     width: parent.width
                 }

@@ -118,6 +118,14 @@ ApplicationWindow {
         }
     }
 
+    // Pages ask for materials, guides and information pages here.
+    Connections {
+        target: Navigation
+        function onMaterialRequested(material) { window.openMaterial(material) }
+        function onGuideRequested(guideId, material) { AppDelegate.showGuideForMaterial(guideId, material) }
+        function onInfoPageRequested(page, title, textSizeButton, inDetailArea) { window.openInfoPage(page, title, textSizeButton, inDetailArea) }
+    }
+
     function openMaterial(material) {
         if (!material || !material.valid)
             return

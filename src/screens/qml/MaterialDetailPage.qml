@@ -11,7 +11,6 @@ Page {
     property var material
     property alias controller: controller
     property alias table: table
-    property alias shippingTable: shippingTable
     // The wide layout: the tablet's detail area, wide enough for columns.
     readonly property bool wide: AppDelegate.tablet && width >= 600
     readonly property Item wideColumns: wideLoader.item
@@ -21,6 +20,7 @@ Page {
     background: Rectangle { color: QorTheme.pageBackground }
 
     MaterialViewController { id: controller }
+    PageRequests { page: page; origin: controller }
     onMaterialChanged: {
         if (material && material.valid) {
             controller.material = material
@@ -54,41 +54,10 @@ Page {
             table.forceActiveFocus()
         }
     }
-    // Rows without the leading name-and-placard section and its source line.
-    function withoutTop(rows) {
-        var first = rows.length > 0 && rows[0].kind === "top" ? 1 : 0
-        if (first && rows.length > 1 && rows[1].kind === "source")
-            first = 2
-        return rows.slice(first)
-    }
-    // What a tap or Enter on any of this screen's rows does.
-    function activateRow(row) {
-        if (row.kind === "guide")
-            AppDelegate.showGuideForMaterial(row.guideId, page.material)
-        else if (row.kind === "iso")
-            page.openIsolation()
-        else if (row.kind === "entry")
-            page.push("ShippingEntryPage.qml", { attributes: controller.shipping.entryAt(row.index), backText: controller.backTitle })
-        else if (row.kind === "shipping")
-            page.openAction(shippingTable.actionForKey(row.key))
-        else if (row.kind === "ghs")
-            controller.protection.toggleGhsDetails()
-    }
-
-    function push(file, props) {
+    function openIsolation() { controller.openIsolation() }
+    function openInfo(name, title) {
         var stack = page.StackView.view
-        if (stack)
-            return stack.push(Qt.resolvedUrl(file).toString(), props)
-        return null
-    }
-    function openInfo(name, title) { return push("InfoPage.qml", { page: name, title: title }) }
-    function openIsolation() { return push("IsolationPage.qml", { material: page.material, backText: controller.backTitle }) }
-    function openAction(action) {
-        if (action.kind === "cfr")
-            return push("RegulationPage.qml", { title: action.title, html: action.html, source: action.source, backText: controller.backTitle })
-        if (action.kind === "provisions")
-            return push("ProvisionsPage.qml", { title: action.title, provisions: action.provisions, headerTitle: action.headerTitle })
-        return null
+        return stack ? stack.push(Qt.resolvedUrl("InfoPage.qml").toString(), { page: name, title: title }) : null
     }
 
     header: BarHeader {
@@ -139,17 +108,15 @@ Page {
     component MaterialRows: DetailRows {
         onCopyRequested: function(text) { controller.copyToClipboard(text) }
         onInfoClicked: function(name, title) { page.openInfo(name, title) }
-        onRowClicked: function(row, index) { page.activateRow(row) }
+        onRowActivated: function(index) { controller.activateIn(model, index) }
     }
 
     MaterialRows {
         id: table
         anchors.fill: parent
         visible: !page.wide
-        model: page.wide ? [] : controller.rows
+        model: page.wide ? null : controller.rowModel
         Accessible.name: [qsTr("Summary"), qsTr("Shipping"), qsTr("Protection")][controller.selectedViewIndex] || qsTr("Details")
-        // Shipping rows shown inline belong to the material's one entry.
-        ShippingTableDelegate { id: shippingTable; attributes: controller.shipping.firstEntry }
     }
 
     Loader {
@@ -173,9 +140,8 @@ Page {
                 var column = columns[index]
                 column.forceActiveFocus()
                 // Protection follows shipping in the same column.
-                var protectionStart = page.withoutTop(controller.shipping.rows).length
-                if (index === 2 && protectionStart < column.count)
-                    column.currentIndex = protectionStart
+                if (index === 2 && controller.protectionRowStart < column.count)
+                    column.currentIndex = controller.protectionRowStart
                 else if (index === 1)
                     column.currentIndex = 0
                 column.positionViewAtIndex(Math.max(0, column.currentIndex), ListView.Beginning)
@@ -186,7 +152,7 @@ Page {
                 Layout.fillHeight: true
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
-                model: controller.summary.rows
+                model: controller.summaryRowModel
                 Accessible.name: qsTr("Summary")
             }
             Rectangle { Layout.fillHeight: true; Layout.preferredWidth: 1; color: QorTheme.divider }
@@ -207,9 +173,7 @@ Page {
                 Layout.fillHeight: true
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
-                // The name and placard head the summary column already.
-                model: page.withoutTop(controller.shipping.rows)
-                       .concat(controller.segmentImages.length > 2 ? controller.protection.rows : [])
+                model: controller.sideRowModel
                 Accessible.name: qsTr("Shipping") + ", " + qsTr("Protection")
             }
         }

@@ -51,7 +51,7 @@ Page {
         if (AppDelegate.tablet)
             list.selectedRow = row
         Qt.inputMethod.hide()
-        window.openMaterial(m)
+        Navigation.openMaterial(m)
     }
 
     MaterialListController {

@@ -12,15 +12,11 @@ Page {
     header: BarHeader { page: page; title: page.title }
     ShippingSpecialProvisionsTableDelegate { id: delegate }
     StackView.onActivated: rows.forceActiveFocus()
+    PageRequests { page: page; origin: delegate }
     DetailRows {
         id: rows
         anchors.fill: parent
-        model: delegate.rows
-        onRowClicked: function(row, index) {
-            var chosen = delegate.chooseProvision(index)
-            if (page.StackView.view && chosen.category)
-                page.StackView.view.push(Qt.resolvedUrl("ProvisionPage.qml").toString(),
-                                         { category: chosen.category, provision: chosen.provision, title: chosen.title })
-        }
+        model: delegate.rowModel
+        onRowActivated: function(index) { delegate.activate(index) }
     }
 }

@@ -20,7 +20,7 @@ Page {
     ReferenceViewController {
         id: reference
         onPageRequested: function(name, title, textSizeButton, inDetailArea) {
-            window.openInfoPage(name, title, textSizeButton, inDetailArea)
+            Navigation.openInfoPage(name, title, textSizeButton, inDetailArea)
         }
     }
 

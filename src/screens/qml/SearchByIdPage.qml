@@ -20,7 +20,7 @@ Page {
 
     function open() {
         if (search.material.valid)
-            window.openMaterial(search.material)
+            Navigation.openMaterial(search.material)
     }
 
     ColumnLayout {
