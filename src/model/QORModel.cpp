@@ -51,7 +51,7 @@ QORModel::QORModel(QObject* parent) : QObject(parent)
     const auto& cats = CategoryManager::sharedInstance()->categories();
     auto make = [&](const char* abbrev) {
         auto f = std::make_shared<Filter>(cats.value(QString::fromLatin1(abbrev)).get());
-        filters.insert(QString::fromLatin1(abbrev), f);
+        m_filters.insert(QString::fromLatin1(abbrev), f);
         return f;
     };
     allFilter = make("A");
@@ -60,7 +60,7 @@ QORModel::QORModel(QObject* parent) : QObject(parent)
     tihCommonFilter = make("U");
     polyFilter = make("P");
     waterReactiveFilter = make("W");
-    currentFilter = allFilter;
+    m_currentFilter = allFilter;
 
     m_npgDb = Database::openReadOnlyOrAbort(Resources::path(QStringLiteral("npg"), QStringLiteral("db")));
     buildFixedTables();
@@ -155,7 +155,7 @@ void QORModel::loadData()
     loadMaterials();
     // Materials just read hold no caches: loadFilterWithData's release of
     // them is left out here.
-    for (const auto& filter : std::as_const(filters))
+    for (const auto& filter : std::as_const(m_filters))
         if (!filter->filteredArray || filter->filteredArray->isEmpty())
             fillFilter(*filter);
     loadViewedHistory();
@@ -166,7 +166,7 @@ void QORModel::loadData()
 
 void QORModel::releaseUnneededMemory()
 {
-    for (const auto& m : std::as_const(materials))
+    for (const auto& m : std::as_const(m_materials))
         m->releaseUnneededMemory();
 }
 
@@ -225,8 +225,8 @@ void QORModel::loadMaterials()
     MaterialList* previousSection = nullptr;
     QChar previousLetter;
     int lineNumber = 0;
-    const qsizetype firstNew = materials.size();
-    materials.reserve(materials.size() + bytes.count('\n') + 1);
+    const qsizetype firstNew = m_materials.size();
+    m_materials.reserve(m_materials.size() + bytes.count('\n') + 1);
     forEachPart(text, u'\n', [&](QStringView line) {
         ++lineNumber;
         QStringView fields[8];
@@ -283,7 +283,7 @@ void QORModel::loadMaterials()
         }
         if (previousSection)
             previousSection->append(m);
-        materials.append(std::move(m));
+        m_materials.append(std::move(m));
     });
     all.invalidateSectionKeys();
 
@@ -296,8 +296,8 @@ void QORModel::loadMaterials()
         QString key;
         MaterialList* list = nullptr;
     } levels[4];
-    for (qsizetype i = firstNew; i < materials.size(); ++i) {
-        const MaterialPtr& m = materials.at(i);
+    for (qsizetype i = firstNew; i < m_materials.size(); ++i) {
+        const MaterialPtr& m = m_materials.at(i);
         // ASCII, the usual case, is lowered on the stack.
         char16_t ascii[5];
         const qsizetype take = std::min<qsizetype>(m->name.size(), 5);
@@ -394,14 +394,15 @@ void QORModel::loadGuideList()
                 list.append(std::make_shared<Guide>(fields[0].toString(), fields[1].toString()));
         }
     }
-    guides = std::move(list);
+    m_guides = std::move(list);
+    emit guidesChanged();
 }
 
 GuidePtr QORModel::dotGuideForMaterial(const Material* material) const
 {
     if (!material)
         return nullptr;
-    for (const auto& g : guides)
+    for (const auto& g : m_guides)
         if (g->guideId == material->guideId)
             return g;
     return nullptr;
@@ -573,12 +574,58 @@ void QORModel::changeFilter(const QString& abbrev)
 
 void QORModel::changeFilter(const QString& abbrev, int sort)
 {
-    const int previousSort = currentFilter ? currentFilter->sortType : 0;
-    currentFilter = filters.value(abbrev);
-    if (currentFilter)
+    const int previousSort = m_currentFilter ? m_currentFilter->sortType : 0;
+    m_currentFilter = m_filters.value(abbrev);
+    if (m_currentFilter)
         // The plain setter: sortImage deliberately stays as it was.
-        currentFilter->sortType = sort == -1 ? previousSort : sort;
-    emit filterChanged(currentFilter.get());
+        m_currentFilter->sortType = sort == -1 ? previousSort : sort;
+    emit filterChanged(m_currentFilter.get());
+}
+
+void QORModel::nextSortType()
+{
+    if (m_currentFilter)
+        m_currentFilter->nextSortType();
+}
+
+void QORModel::changeSortType(int sort)
+{
+    if (m_currentFilter)
+        m_currentFilter->changeSortType(sort);
+}
+
+void QORModel::setSortImage(const QString& image)
+{
+    if (m_currentFilter)
+        m_currentFilter->sortImage = image;
+}
+
+void QORModel::setHasIncidents(bool on)
+{
+    if (m_currentFilter)
+        m_currentFilter->hasIncidents = on;
+}
+
+void QORModel::setCategoryAbbrev(const QString& abbrev)
+{
+    if (m_currentFilter)
+        m_currentFilter->categoryAbbrev = abbrev;
+}
+
+void QORModel::invalidateCurrentFilter()
+{
+    if (m_currentFilter)
+        m_currentFilter->filteredArray.reset();
+}
+
+void QORModel::postFilterChanged()
+{
+    emit filterChanged(m_currentFilter.get());
+}
+
+void QORModel::postFilterChangeCancelled()
+{
+    emit filterChanged(nullptr);
 }
 
 MaterialList QORModel::getMaterialsUsingFilter(const Filter& filter)
@@ -587,13 +634,13 @@ MaterialList QORModel::getMaterialsUsingFilter(const Filter& filter)
     const bool inc = filter.hasIncidents;
     auto select = [&](auto pred) {
         MaterialList out;
-        for (const auto& m : std::as_const(materials))
+        for (const auto& m : std::as_const(m_materials))
             if (pred(*m) && (!inc || m->numIncidents() > 0))
                 out.append(m);
         return out;
     };
     if (abbrev == QLatin1String("A"))
-        return inc ? select([](const Material&) { return true; }) : materials;
+        return inc ? select([](const Material&) { return true; }) : m_materials;
     if (abbrev == QLatin1String("P"))
         return select([](const Material& m) { return m.mayPolymerize; });
     if (abbrev == QLatin1String("T"))
@@ -612,7 +659,7 @@ MaterialList QORModel::getMaterialsUsingFilter(const Filter& filter)
         return select([](const Material& m) { return m.methLab; });
     if (!abbrev.isEmpty() && abbrev.at(0).isDigit())
         return {};  // hazard-class categories: materials carry no class field
-    return materials;
+    return m_materials;
 }
 
 void QORModel::loadFilterWithData(Filter& filter)
@@ -623,16 +670,16 @@ void QORModel::loadFilterWithData(Filter& filter)
 
 const QORModel::SharedOrders& QORModel::sharedOrders()
 {
-    if (m_sharedOrders && m_sharedOrders->count == materials.size())
+    if (m_sharedOrders && m_sharedOrders->count == m_materials.size())
         return *m_sharedOrders;
     SharedOrders& orders = m_sharedOrders.emplace(SharedOrders{});
-    const int n = int(materials.size());
+    const int n = int(m_materials.size());
     orders.count = n;
     // Sort keys computed once per material rather than in every comparison.
     const size_t count = static_cast<size_t>(n);
     std::vector<int> guide(count), incidents(count), unId(count);
     for (int i = 0; i < n; ++i) {
-        const Material& m = *materials.at(i);
+        const Material& m = *m_materials.at(i);
         guide[size_t(i)] = leadingInt(m.guideId);
         incidents[size_t(i)] = m.numIncidents();
         unId[size_t(i)] = leadingInt(m.unId);
@@ -698,13 +745,13 @@ void QORModel::fillFilter(Filter& filter)
     // list when the filter has every material.
     // The members come in the materials' order: one walk along both finds them.
     const SharedOrders& orders = sharedOrders();
-    const bool everything = list.size() == materials.size();
+    const bool everything = list.size() == m_materials.size();
     std::vector<char> member;
     if (!everything) {
-        member.assign(size_t(materials.size()), 0);
+        member.assign(size_t(m_materials.size()), 0);
         qsizetype next = 0;
-        for (qsizetype i = 0; i < materials.size() && next < list.size(); ++i)
-            if (materials.at(i) == list.at(next)) {
+        for (qsizetype i = 0; i < m_materials.size() && next < list.size(); ++i)
+            if (m_materials.at(i) == list.at(next)) {
                 member[size_t(i)] = 1;
                 ++next;
             }
@@ -712,8 +759,8 @@ void QORModel::fillFilter(Filter& filter)
             QSet<const Material*> members;
             for (const auto& m : list)
                 members.insert(m.get());
-            for (qsizetype i = 0; i < materials.size(); ++i)
-                member[size_t(i)] = members.contains(materials.at(i).get());
+            for (qsizetype i = 0; i < m_materials.size(); ++i)
+                member[size_t(i)] = members.contains(m_materials.at(i).get());
         }
     }
     auto restricted = [&](const std::vector<int>& order) {
@@ -721,7 +768,7 @@ void QORModel::fillFilter(Filter& filter)
         out.reserve(list.size());
         for (const int i : order)
             if (everything || member[size_t(i)])
-                out.append(materials.at(i));
+                out.append(m_materials.at(i));
         return out;
     };
     filter.guideSortedArray = restricted(orders.byGuide);
@@ -759,11 +806,11 @@ void QORModel::fillFilter(Filter& filter)
 
 MaterialList QORModel::getMaterials()
 {
-    if (!currentFilter)
+    if (!m_currentFilter)
         return {};
-    if (!currentFilter->filteredArray)
-        loadFilterWithData(*currentFilter);
-    return *currentFilter->filteredArray;
+    if (!m_currentFilter->filteredArray)
+        loadFilterWithData(*m_currentFilter);
+    return *m_currentFilter->filteredArray;
 }
 
 int QORModel::getNumMaterials()
@@ -773,20 +820,20 @@ int QORModel::getNumMaterials()
 
 QStringList QORModel::getSections()
 {
-    if (!currentFilter)
+    if (!m_currentFilter)
         return {};
-    if (!currentFilter->filteredArray)
-        loadFilterWithData(*currentFilter);
-    return currentFilter->sectionKeys(currentFilter->sortType);
+    if (!m_currentFilter->filteredArray)
+        loadFilterWithData(*m_currentFilter);
+    return m_currentFilter->sectionKeys(m_currentFilter->sortType);
 }
 
 MaterialList QORModel::materialsForSection(int section)
 {
     if (m_isLoading)
         return getLoadingMaterials();
-    if (!currentFilter)
+    if (!m_currentFilter)
         return {};
-    Filter& f = *currentFilter;
+    Filter& f = *m_currentFilter;
     if (!f.filteredArray)
         loadFilterWithData(f);
     if (f.sortType == SortIncidents)
@@ -864,8 +911,8 @@ const MaterialList& QORModel::getLoadingMaterials()
 
 QString QORModel::getDefaultSortImage() const
 {
-    if (currentFilter && !currentFilter->defaultSortImage.isEmpty())
-        return currentFilter->defaultSortImage;
+    if (m_currentFilter && !m_currentFilter->defaultSortImage.isEmpty())
+        return m_currentFilter->defaultSortImage;
     return QStringLiteral("Sort-Alphabetically.png");
 }
 

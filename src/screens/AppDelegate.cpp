@@ -81,8 +81,8 @@ void QORAppDelegate::showAllMaterialsWithSort(int sort)
 {
     QORModel* model = QORModel::sharedInstance();
     model->changeFilter(QStringLiteral("A"), sort);
-    if (model->currentFilter)
-        emit sortImageRequested(model->currentFilter->sortImages.value(sort));
+    if (model->currentFilter())
+        emit sortImageRequested(model->currentFilter()->sortImages.value(sort));
     emit endSearchRequested();
     setCurrentTab(MaterialsTab);
 }
@@ -129,7 +129,7 @@ bool QORAppDelegate::openUrl(const QString& url)
         });
         break;
     case AppLink::Chemical: {
-        MaterialPtr m = firstMaterialWithUnNumber(QORModel::sharedInstance()->materials, link.unId);
+        MaterialPtr m = firstMaterialWithUnNumber(QORModel::sharedInstance()->materials(), link.unId);
         if (!m)
             break;
         const MaterialRef ref(m);
