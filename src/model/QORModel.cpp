@@ -1,4 +1,5 @@
 #include "QORModel.h"
+#include "PackSchema.h"
 #include "Resources.h"
 
 #include <QFile>
@@ -117,25 +118,15 @@ void QORModel::buildFixedTables()
     for (const auto& c : classes)
         classDescriptions.insert(QString::fromLatin1(c.key), L::tr(c.text));
 
-    const char* placardKeys[] = { "1", "1.1", "1.2", "1.3", "1.4", "1.5", "1.6", "2.1", "2.2", "2.3", "3", "4.1",
-                                  "4.2", "4.3", "5.1", "5.2", "6.1", "6.1-tih", "6.1-toxic", "6.2", "7", "8", "9" };
-    for (const char* k : placardKeys)
-        placards.insert(QString::fromLatin1(k), QString::fromLatin1(k) + QStringLiteral(".pdf"));
+    // The artwork and pages every pack must carry: the pack's schema names them.
+    for (const QString& key : packPlacardKeys())
+        placards.insert(key, key + QStringLiteral(".pdf"));
     placards.insert(QStringLiteral("blank"), QStringLiteral("9.pdf"));
 
-    for (int i = 1; i <= 9; ++i) {
-        const QString key = QStringLiteral("ghs%1").arg(i, 2, 10, QLatin1Char('0'));
+    for (const QString& key : packGhsPictograms())
         ghsPictograms.insert(key, key + QStringLiteral(".pdf"));
-    }
 
-    infoPages = { QStringLiteral("emergency"), QStringLiteral("control"), QStringLiteral("battery"),
-                  QStringLiteral("bleve"), QStringLiteral("criminal"), QStringLiteral("howto"),
-                  QStringLiteral("intermodal"), QStringLiteral("pipelines"), QStringLiteral("clothing"),
-                  QStringLiteral("shippingdocuments"), QStringLiteral("protectiveactions"), QStringLiteral("factors"),
-                  QStringLiteral("railcar"), QStringLiteral("placards"), QStringLiteral("roadtrailer"),
-                  QStringLiteral("safetyprecautions"), QStringLiteral("whotocall"), QStringLiteral("glossary"),
-                  QStringLiteral("ied_safe_standoff_distance"), QStringLiteral("NPG"), QStringLiteral("GHS"),
-                  QStringLiteral("Isolation_Distances") };
+    infoPages = packInfoPages();
 }
 
 void QORModel::logMemory(const char* where) const
@@ -201,6 +192,29 @@ QString lowerPrefix(const QString& name)
 {
     return name.size() > 5 ? QStringView(name).left(5).toString().toLower() : name.toLower();
 }
+
+// Alphabetical sections, filled in list order: a material goes under the
+// upper-cased first letter of its name, and a name not starting with a
+// letter goes where the material before it went (nowhere for the first).
+class AlphaSectioning {
+public:
+    explicit AlphaSectioning(QHash<QString, MaterialList>& sections) : m_sections(sections) {}
+    void add(const MaterialPtr& m)
+    {
+        const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
+        if (first.isLetter() && (first != m_letter || !m_section)) {
+            m_section = &m_sections[QString(first)];
+            m_letter = first;
+        }
+        if (m_section)
+            m_section->append(m);
+    }
+
+private:
+    QHash<QString, MaterialList>& m_sections;
+    MaterialList* m_section = nullptr;
+    QChar m_letter;
+};
 } // namespace
 
 void QORModel::loadMaterials()
@@ -222,8 +236,7 @@ void QORModel::loadMaterials()
     const QString polymerizeKey = QStringLiteral("mayPolymerize");
 
     Filter& all = *allFilter;
-    MaterialList* previousSection = nullptr;
-    QChar previousLetter;
+    AlphaSectioning sections(all.alphaSections);
     int lineNumber = 0;
     const qsizetype firstNew = m_materials.size();
     m_materials.reserve(m_materials.size() + bytes.count('\n') + 1);
@@ -275,14 +288,7 @@ void QORModel::loadMaterials()
         // Deliberately false even when the guide carries the "P" suffix.
         m->qorAttributes.insert(polymerizeKey, false);
 
-        // Names not starting with a letter go where the previous material went.
-        const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
-        if (first.isLetter() && (first != previousLetter || !previousSection)) {
-            previousSection = &all.alphaSections[QString(first)];
-            previousLetter = first;
-        }
-        if (previousSection)
-            previousSection->append(m);
+        sections.add(m);
         m_materials.append(std::move(m));
     });
     all.invalidateSectionKeys();
@@ -729,17 +735,9 @@ void QORModel::fillFilter(Filter& filter)
     filter.filteredArray = getMaterialsUsingFilter(filter);
     const MaterialList& list = *filter.filteredArray;
 
-    MaterialList* previous = nullptr;
-    QChar previousLetter;
-    for (const auto& m : list) {
-        const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
-        if (first.isLetter() && (first != previousLetter || !previous)) {
-            previous = &filter.alphaSections[QString(first)];
-            previousLetter = first;
-        }
-        if (previous)
-            previous->append(m);
-    }
+    AlphaSectioning alpha(filter.alphaSections);
+    for (const auto& m : list)
+        alpha.add(m);
 
     // The filter's members, by their place among all materials; the whole
     // list when the filter has every material.
@@ -913,7 +911,7 @@ QString QORModel::getDefaultSortImage() const
 {
     if (m_currentFilter && !m_currentFilter->defaultSortImage.isEmpty())
         return m_currentFilter->defaultSortImage;
-    return QStringLiteral("Sort-Alphabetically.png");
+    return packDefaultSortImageFallback();
 }
 
 } // namespace qor
