@@ -94,6 +94,14 @@ void QORAppDelegate::showFilteredListForCategory(const QString& abbrev)
     setCurrentTab(MaterialsTab);
 }
 
+bool QORAppDelegate::showInDetailArea(const MaterialRef& material)
+{
+    if (!m_tablet)
+        return false;
+    showDetailForMaterial(material);
+    return true;
+}
+
 void QORAppDelegate::showDetailForMaterial(const MaterialRef& material)
 {
     m_detailMaterial = material;
@@ -133,9 +141,7 @@ bool QORAppDelegate::openUrl(const QString& url)
         if (!m)
             break;
         const MaterialRef ref(m);
-        if (m_tablet)
-            showDetailForMaterial(ref);
-        else
+        if (!showInDetailArea(ref))
             emit materialRequested(ref);
         QTimer::singleShot(kScrollLinkDelayMs, this, [this, ref] { emit scrollToMaterialRequested(ref); });
         break;

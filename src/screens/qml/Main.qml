@@ -67,12 +67,8 @@ ApplicationWindow {
     }
 
     function openMaterial(material) {
-        if (!material || !material.valid)
+        if (!material || !material.valid || AppDelegate.showInDetailArea(material))
             return
-        if (AppDelegate.tablet) {
-            AppDelegate.showDetailForMaterial(material)
-            return
-        }
         AppDelegate.currentTab = AppDelegate.MaterialsTab
         materialsStack.push(Qt.resolvedUrl("MaterialDetailPage.qml").toString(), { material: material })
     }
