@@ -30,6 +30,10 @@ public:
     // window's items and their pushed pages count as under it.
     Q_INVOKABLE int attachAll(QObject* root)
     {
+        // The test log puts its own handler in when a test file starts:
+        // ours goes in front of it each time.
+        if (QtMessageHandler current = qInstallMessageHandler(&ModelChecks::handle); current != &ModelChecks::handle)
+            s_previous = current;
         int attached = 0;
         visit(root, attached);
         return attached;
@@ -41,8 +45,6 @@ public:
         m_failures.clear();
         return text;
     }
-    void install() { s_previous = qInstallMessageHandler(&ModelChecks::handle); }
-
 private:
     void visit(QObject* object, int& attached)
     {
@@ -66,8 +68,13 @@ private:
     {
         if (context.category && qstrcmp(context.category, "qt.modeltest") == 0 && type >= QtWarningMsg)
             instance()->m_failures << message;
-        if (s_previous)
+        // A handler chain that leads back here must not loop.
+        static thread_local bool forwarding = false;
+        if (s_previous && !forwarding) {
+            forwarding = true;
             s_previous(type, context, message);
+            forwarding = false;
+        }
     }
 
     QList<QPointer<QAbstractItemModel>> m_checked;
@@ -85,7 +92,6 @@ public slots:
         QCoreApplication::setApplicationName(QStringLiteral("QOR-tests"));
         qor::QORAppDelegate::sharedInstance()->setFormFactorOverride(QStringLiteral("phone"));
         qor::PageViewFactory::setCreator([] { return new qor::WebEnginePageView(); });
-        ModelChecks::instance()->install();
         qor::QORModel::sharedInstance()->loadData();
     }
     void qmlEngineAvailable(QQmlEngine* engine)
