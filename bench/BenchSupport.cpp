@@ -100,7 +100,7 @@ MaterialPtr loadModelAndFind(const QString& unId)
     delete QORModel::sharedInstance(false);
     auto* model = new QORModel();
     model->loadData();
-    for (const auto& m : std::as_const(model->materials))
+    for (const auto& m : std::as_const(model->materials()))
         if (m->unId == unId)
             return m;
     return nullptr;

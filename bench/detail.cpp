@@ -53,7 +53,7 @@ static void BM_IsolationTablesUnitsSwitch(benchmark::State& state)
     auto* model = new QORModel();
     model->loadData();
     MaterialPtr m;
-    for (const auto& x : std::as_const(model->materials))
+    for (const auto& x : std::as_const(model->materials()))
         if (x->unId == QLatin1String("1005") && !m)
             m = x;
     IsolationTableDelegate table;

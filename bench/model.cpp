@@ -27,7 +27,7 @@ static void loadDataRepeatedly(benchmark::State& state)
         model->getMaterialsWithIncidents();  // the grouped count query is cached for the process
         state.ResumeTiming();
         model->loadData();
-        benchmark::DoNotOptimize(model->materials.size());
+        benchmark::DoNotOptimize(model->materials().size());
     }
     delete QORModel::sharedInstance(false);
 }
@@ -72,7 +72,7 @@ static void BM_IsolationDistancesCold(benchmark::State& state)
     auto* model = new QORModel();
     model->loadData();
     MaterialList tih;
-    for (const auto& m : model->materials)
+    for (const auto& m : model->materials())
         if (m->toxicInhalationHazard)
             tih.append(m);
     qsizetype i = 0;

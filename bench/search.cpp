@@ -28,7 +28,7 @@ static void BM_SearchKeystroke(benchmark::State& state, const char* text)
     MaterialSearch search([](const Material& m) { return m.unId == QLatin1String("1090"); });
     for (auto _ : state) {
         search.reset();  // every keystroke is a new text
-        search.search(QString::fromLatin1(text), model.allFilter.get(), model.materials, SortAlpha);
+        search.search(QString::fromLatin1(text), model.allFilter.get(), model.materials(), SortAlpha);
         benchmark::DoNotOptimize(search.results().size());
     }
     state.counters["results"] = double(search.results().size());
@@ -43,9 +43,9 @@ static void BM_SuggestWhenNothingFound(benchmark::State& state, const char* text
 {
     QORModel& model = loadedScaleModel();
     NameSuggestions suggester;
-    suggester.suggest(QString::fromLatin1(text), model.materials);
+    suggester.suggest(QString::fromLatin1(text), model.materials());
     for (auto _ : state)
-        benchmark::DoNotOptimize(suggester.suggest(QString::fromLatin1(text), model.materials).size());
+        benchmark::DoNotOptimize(suggester.suggest(QString::fromLatin1(text), model.materials()).size());
 }
 BENCHMARK_CAPTURE(BM_SuggestWhenNothingFound, one_word, "clorine")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(BM_SuggestWhenNothingFound, two_words, "hydrogen sulfde")->Unit(benchmark::kMicrosecond);
@@ -55,7 +55,7 @@ static void BM_SuggestIndexBuild(benchmark::State& state)
     QORModel& model = loadedScaleModel();
     for (auto _ : state) {
         NameSuggestions suggester;
-        benchmark::DoNotOptimize(suggester.suggest(QStringLiteral("gasolene"), model.materials).size());
+        benchmark::DoNotOptimize(suggester.suggest(QStringLiteral("gasolene"), model.materials()).size());
     }
 }
 BENCHMARK(BM_SuggestIndexBuild)->Unit(benchmark::kMillisecond);

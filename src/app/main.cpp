@@ -324,12 +324,12 @@ int main(int argc, char** argv)
     if (parser.isSet(sortOrder))
         whenModelLoaded([sort = parser.value(sortOrder).toInt()] {
             QORModel* model = QORModel::sharedInstance();
-            if (!model->currentFilter || sort < 0 || sort > 3)
+            if (!model->currentFilter() || sort < 0 || sort > 3)
                 return;
             // The sort button's own step, so the button shows the order's image.
-            while (model->currentFilter->sortType != sort)
-                model->currentFilter->nextSortType();
-            emit model->filterChanged(model->currentFilter.get());
+            while (model->currentFilter()->sortType != sort)
+                model->nextSortType();
+            model->postFilterChanged();
         });
     if (window && (parser.isSet(detailTab) || parser.isSet(openScreen))) {
         QTimer::singleShot(800, window, [window, tab = parser.value(detailTab), screen = parser.value(openScreen)] {

@@ -114,11 +114,11 @@ QJsonObject materialJson(QORModel& model, Material& m)
 MaterialList findMaterials(QORModel& model, const QString& arg)
 {
     MaterialList out;
-    for (const auto& m : std::as_const(model.materials))
+    for (const auto& m : std::as_const(model.materials()))
         if (m->unId == arg)
             out.append(m);
     if (out.isEmpty())
-        for (const auto& m : std::as_const(model.materials))
+        for (const auto& m : std::as_const(model.materials()))
             if (m->name.compare(arg, Qt::CaseInsensitive) == 0)
                 out.append(m);
     return out;
@@ -134,7 +134,7 @@ QORModel& loadedModel()
     QORModel* model = QORModel::sharedInstance();
     if (model->isLoading())
         model->loadData();
-    if (model->guides.isEmpty())
+    if (model->guides().isEmpty())
         model->loadGuideList();
     return *model;
 }

@@ -176,15 +176,15 @@ int listCommand(Context& ctx, QStringList args)
         return ctx.usage(QStringLiteral("unexpected argument '%1'").arg(args.first()));
 
     QORModel& model = loadedModel();
-    if (!model.filters.contains(category))
+    if (!model.filters().contains(category))
         return ctx.usage(QStringLiteral("unknown category '%1' (use one of A T U M W P)").arg(category));
     model.changeFilter(category, sort);
-    Filter& filter = *model.currentFilter;
-    filter.changeSortType(sort);
+    model.changeSortType(sort);
     if (incidents) {
-        filter.hasIncidents = true;
-        model.loadFilterWithData(filter);
+        model.setHasIncidents(true);
+        model.invalidateCurrentFilter();
     }
+    const Filter& filter = *model.currentFilter();
 
     QJsonArray sections;
     int total = 0;

@@ -132,7 +132,7 @@ int mailGuideCommand(Context& ctx, QStringList args)
     QORModel& model = *QORModel::sharedInstance();
     model.loadGuideList();
     GuidePtr guide;
-    for (const GuidePtr& g : std::as_const(model.guides))
+    for (const GuidePtr& g : std::as_const(model.guides()))
         if (g->guideId == args.first())
             guide = g;
     if (!guide || !QFileInfo::exists(Resources::path(guide->guideId, QStringLiteral("html")))) {

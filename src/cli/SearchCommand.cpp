@@ -23,18 +23,18 @@ int searchCommand(Context& ctx, QStringList args)
         return ctx.usage(QStringLiteral("search needs exactly one non-empty TEXT"));
 
     QORModel& model = loadedModel();
-    if (!model.filters.contains(category))
+    if (!model.filters().contains(category))
         return ctx.usage(QStringLiteral("unknown category '%1' (use one of A T U M W P)").arg(category));
     model.changeFilter(category, sort);
 
     MaterialSearch search(viewedPredicate());
-    search.search(args.first(), model.currentFilter.get(), model.materials, sort);
+    search.search(args.first(), model.currentFilter(), model.materials(), sort);
     const MaterialList& results = search.results();
     // Only an empty result offers close names; the names are never searched
     // in the UN-number sort, so neither are they suggested there.
     MaterialList suggestions;
     if (results.isEmpty() && sort != 1)
-        suggestions = NameSuggestions().suggestMaterials(args.first(), model.materials);
+        suggestions = NameSuggestions().suggestMaterials(args.first(), model.materials());
     if (ctx.json) {
         QJsonArray array;
         auto add = [&](const MaterialPtr& m, bool suggestion) {

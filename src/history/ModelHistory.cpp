@@ -7,7 +7,7 @@ void QORModel::loadViewedHistory()
 {
     HistoryManager* history = HistoryManager::sharedInstance();
     history->loadHistory();
-    history->resolveMaterials(materials);
+    history->resolveMaterials(m_materials);
 }
 
 void QORModel::saveData()

@@ -1,4 +1,5 @@
 #include "Filter.h"
+#include "PackSchema.h"
 #include "QORModel.h"
 #include "Resources.h"
 
@@ -53,8 +54,7 @@ Filter::Filter(const Category* category)
 
 void Filter::setDefaults()
 {
-    sortImages = { QStringLiteral("Sort-Alphabetically.pdf"), QStringLiteral("Sort-UnId.pdf"),
-                   QStringLiteral("Sort-Incidents.pdf"), QStringLiteral("Sort-Guide.pdf") };
+    sortImages = packSortButtonImages();
     defaultSortImage = sortImages.first();
     sortImage = sortImages.first();
     categoryAbbrev = QStringLiteral("A");

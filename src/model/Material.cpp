@@ -4,27 +4,26 @@
 
 namespace qor {
 
-int Material::numIncidents() const
+bool Material::carriesIncidentsOfItsNumber() const
 {
     if (unId.isEmpty())
-        return 0;
-    // Generic names share these numbers; only one name of each carries the count.
+        return false;
     switch (leadingInt(unId)) {
     case 1760:
-        if (name != QLatin1String("Corrosive Liquid, N.O.S."))
-            return 0;
-        break;
+        return name == QLatin1String("Corrosive Liquid, N.O.S.");
     case 2810:
-        if (name != QLatin1String("Toxic Liquid, Organic, N.O.S.") && name != QLatin1String("Poisonous Liquid, Organic, N.O.S."))
-            return 0;
-        break;
+        return name == QLatin1String("Toxic Liquid, Organic, N.O.S.") || name == QLatin1String("Poisonous Liquid, Organic, N.O.S.");
     case 1993:
-        if (name != QLatin1String("Combustible Liquid, N.O.S.") && name != QLatin1String("Flammable Liquid, N.O.S."))
-            return 0;
-        break;
+        return name == QLatin1String("Combustible Liquid, N.O.S.") || name == QLatin1String("Flammable Liquid, N.O.S.");
     default:
-        break;
+        return true;
     }
+}
+
+int Material::numIncidents() const
+{
+    if (!carriesIncidentsOfItsNumber())
+        return 0;
     QORModel* model = QORModel::sharedInstance(false);
     if (!model)
         return 0;

@@ -61,6 +61,11 @@ public:
 
     // Incident count from the shared model, with the N.O.S. rules.
     int numIncidents() const;
+    // Whether the incidents reported under the UN number are this
+    // material's: not without a number, and under 1760, 2810 and 1993,
+    // which many generic names share, only for the N.O.S. name that stands
+    // for the number, so the others do not repeat its count.
+    bool carriesIncidentsOfItsNumber() const;
     // CAMEO, then NPG, then GHS attributes; "USE" and "CameoHazardText" fall
     // back to the WISER texts. Runs the lookups on the shared model.
     std::optional<QString> attributeForKey(const QString& key);

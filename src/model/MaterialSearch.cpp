@@ -9,6 +9,20 @@
 
 namespace qor {
 
+namespace {
+// The ranking rule, negative when a goes first. Two materials outside the
+// weight table go by name. Otherwise only a strictly heavier b goes first:
+// equal weights answer "a first" either way round, and a viewed material
+// outside the table deliberately gains nothing against another one outside it.
+template <typename CompareNames>
+int rankOrder(bool aInTable, int aWeight, bool bInTable, int bWeight, CompareNames compareNames)
+{
+    if (!aInTable && !bInTable)
+        return compareNames();
+    return bWeight > aWeight ? 1 : -1;
+}
+} // namespace
+
 const QHash<QString, int>& MaterialSearch::rankingWeights()
 {
     static const QHash<QString, int> weights = [] {
@@ -116,15 +130,12 @@ int MaterialSearch::weight(const Material& m) const
 int MaterialSearch::compare(const Material& a, const Material& b) const
 {
     const auto& w = rankingWeights();
-    if (!w.contains(a.unId) && !w.contains(b.unId)) {
+    return rankOrder(w.contains(a.unId), weight(a), w.contains(b.unId), weight(b), [&] {
         QCollator collator;
         collator.setCaseSensitivity(Qt::CaseInsensitive);
         const int c = collator.compare(a.name, b.name);
         return c < 0 ? -1 : c > 0 ? 1 : 0;
-    }
-    // Only a strictly heavier b goes first; a viewed material outside the
-    // table deliberately gains nothing against another material outside it.
-    return weight(b) > weight(a) ? 1 : -1;
+    });
 }
 
 void MaterialSearch::rank(MaterialList& list) const
@@ -147,9 +158,7 @@ void MaterialSearch::rank(MaterialList& list) const
     // compare() answers "a first" for equal weights both ways round, so it is
     // made strict here: a before b only when b is not also before a.
     auto cmp = [](const Key& a, const Key& b) {
-        if (!a.inTable && !b.inTable)
-            return a.name.compare(b.name);
-        return b.weight > a.weight ? 1 : -1;
+        return rankOrder(a.inTable, a.weight, b.inTable, b.weight, [&] { return a.name.compare(b.name); });
     };
     std::vector<size_t> order(keys.size());
     for (size_t i = 0; i < order.size(); ++i)

@@ -106,10 +106,20 @@ const QStringList& packInfoPages()
     return pages;
 }
 
+const QStringList& packSortButtonImages()
+{
+    static const QStringList images = { "Sort-Alphabetically.pdf", "Sort-UnId.pdf", "Sort-Incidents.pdf", "Sort-Guide.pdf" };
+    return images;
+}
+
+QString packDefaultSortImageFallback()
+{
+    return QStringLiteral("Sort-Alphabetically.png");
+}
+
 const QStringList& packSortImages()
 {
-    static const QStringList images = { "Sort-Alphabetically.pdf", "Sort-UnId.pdf", "Sort-Incidents.pdf",
-                                        "Sort-Guide.pdf", "Sort-Alphabetically.png" };
+    static const QStringList images = packSortButtonImages() + QStringList{ packDefaultSortImageFallback() };
     return images;
 }
 

@@ -35,6 +35,8 @@ QString packUnIdColumnText(const QString& column);
 const QStringList& packPlacardKeys();      // each has "<key>.pdf"; "blank" shows placard 9
 const QStringList& packInfoPages();        // each has "<name>.html", in the app's order
 const QStringList& packSortImages();       // the four sort buttons and the PNG fallback
+const QStringList& packSortButtonImages(); // the four sort buttons, by sort type
+QString packDefaultSortImageFallback();    // shown when no filter has a sort image
 const QStringList& packGhsPictograms();    // "ghs01" ... "ghs09", each with "<name>.pdf"
 const QStringList& packOtherArtwork();     // icons and placard-table rows, by file name
 const QStringList& packOtherPages();       // pages beside the information pages, without ".html"

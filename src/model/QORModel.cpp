@@ -1,4 +1,5 @@
 #include "QORModel.h"
+#include "PackSchema.h"
 #include "Resources.h"
 
 #include <QFile>
@@ -52,7 +53,7 @@ QORModel::QORModel(QObject* parent) : QObject(parent)
     const auto& cats = CategoryManager::sharedInstance()->categories();
     auto make = [&](const char* abbrev) {
         auto f = std::make_shared<Filter>(cats.value(QString::fromLatin1(abbrev)).get());
-        filters.insert(QString::fromLatin1(abbrev), f);
+        m_filters.insert(QString::fromLatin1(abbrev), f);
         return f;
     };
     allFilter = make("A");
@@ -61,7 +62,7 @@ QORModel::QORModel(QObject* parent) : QObject(parent)
     tihCommonFilter = make("U");
     polyFilter = make("P");
     waterReactiveFilter = make("W");
-    currentFilter = allFilter;
+    m_currentFilter = allFilter;
 
     m_npgDb = Database::openReadOnlyOrAbort(Resources::path(QStringLiteral("npg"), QStringLiteral("db")));
     buildFixedTables();
@@ -118,25 +119,15 @@ void QORModel::buildFixedTables()
     for (const auto& c : classes)
         classDescriptions.insert(QString::fromLatin1(c.key), L::tr(c.text));
 
-    const char* placardKeys[] = { "1", "1.1", "1.2", "1.3", "1.4", "1.5", "1.6", "2.1", "2.2", "2.3", "3", "4.1",
-                                  "4.2", "4.3", "5.1", "5.2", "6.1", "6.1-tih", "6.1-toxic", "6.2", "7", "8", "9" };
-    for (const char* k : placardKeys)
-        placards.insert(QString::fromLatin1(k), QString::fromLatin1(k) + QStringLiteral(".pdf"));
+    // The artwork and pages every pack must carry: the pack's schema names them.
+    for (const QString& key : packPlacardKeys())
+        placards.insert(key, key + QStringLiteral(".pdf"));
     placards.insert(QStringLiteral("blank"), QStringLiteral("9.pdf"));
 
-    for (int i = 1; i <= 9; ++i) {
-        const QString key = QStringLiteral("ghs%1").arg(i, 2, 10, QLatin1Char('0'));
+    for (const QString& key : packGhsPictograms())
         ghsPictograms.insert(key, key + QStringLiteral(".pdf"));
-    }
 
-    infoPages = { QStringLiteral("emergency"), QStringLiteral("control"), QStringLiteral("battery"),
-                  QStringLiteral("bleve"), QStringLiteral("criminal"), QStringLiteral("howto"),
-                  QStringLiteral("intermodal"), QStringLiteral("pipelines"), QStringLiteral("clothing"),
-                  QStringLiteral("shippingdocuments"), QStringLiteral("protectiveactions"), QStringLiteral("factors"),
-                  QStringLiteral("railcar"), QStringLiteral("placards"), QStringLiteral("roadtrailer"),
-                  QStringLiteral("safetyprecautions"), QStringLiteral("whotocall"), QStringLiteral("glossary"),
-                  QStringLiteral("ied_safe_standoff_distance"), QStringLiteral("NPG"), QStringLiteral("GHS"),
-                  QStringLiteral("Isolation_Distances") };
+    infoPages = packInfoPages();
 }
 
 void QORModel::logMemory(const char* where) const
@@ -156,7 +147,7 @@ void QORModel::loadData()
     loadMaterials();
     // Materials just read hold no caches: loadFilterWithData's release of
     // them is left out here.
-    for (const auto& filter : std::as_const(filters))
+    for (const auto& filter : std::as_const(m_filters))
         if (!filter->filteredArray || filter->filteredArray->isEmpty())
             fillFilter(*filter);
     loadViewedHistory();
@@ -167,7 +158,7 @@ void QORModel::loadData()
 
 void QORModel::releaseUnneededMemory()
 {
-    for (const auto& m : std::as_const(materials))
+    for (const auto& m : std::as_const(m_materials))
         m->releaseUnneededMemory();
 }
 
@@ -220,6 +211,29 @@ private:
     QStringView m_view;  // into the file's text, which outlives this
     QString m_text;
 };
+
+// Alphabetical sections, filled in list order: a material goes under the
+// upper-cased first letter of its name, and a name not starting with a
+// letter goes where the material before it went (nowhere for the first).
+class AlphaSectioning {
+public:
+    explicit AlphaSectioning(QHash<QString, MaterialList>& sections) : m_sections(sections) {}
+    void add(const MaterialPtr& m)
+    {
+        const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
+        if (first.isLetter() && (first != m_letter || !m_section)) {
+            m_section = &m_sections[QString(first)];
+            m_letter = first;
+        }
+        if (m_section)
+            m_section->append(m);
+    }
+
+private:
+    QHash<QString, MaterialList>& m_sections;
+    MaterialList* m_section = nullptr;
+    QChar m_letter;
+};
 } // namespace
 
 void QORModel::loadMaterials()
@@ -255,11 +269,10 @@ void QORModel::loadMaterials()
     RepeatedText placardText, guideText, unIdText, tihText2, waterText, warfareText2;
 
     Filter& all = *allFilter;
-    MaterialList* previousSection = nullptr;
-    QChar previousLetter;
+    AlphaSectioning sections(all.alphaSections);
     int lineNumber = 0;
-    const qsizetype firstNew = materials.size();
-    materials.reserve(materials.size() + std::count(bytes.cbegin(), bytes.cend(), '\n') + 1);
+    const qsizetype firstNew = m_materials.size();
+    m_materials.reserve(m_materials.size() + std::count(bytes.cbegin(), bytes.cend(), '\n') + 1);
     forEachPart(text, u'\n', [&](QStringView line) {
         ++lineNumber;
         QStringView fields[8];
@@ -307,15 +320,8 @@ void QORModel::loadMaterials()
         }
         m->qorAttributes = attributeSets[attributes];
 
-        // Names not starting with a letter go where the previous material went.
-        const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
-        if (first.isLetter() && (first != previousLetter || !previousSection)) {
-            previousSection = &all.alphaSections[QString(first)];
-            previousLetter = first;
-        }
-        if (previousSection)
-            previousSection->append(m);
-        materials.append(std::move(m));
+        sections.add(m);
+        m_materials.append(std::move(m));
     });
     all.invalidateSectionKeys();
     // Prefix index: keys of 0..3 leading characters; short names use length-1.
@@ -327,8 +333,8 @@ void QORModel::loadMaterials()
         QString key;
         MaterialList* list = nullptr;
     } levels[4];
-    for (qsizetype i = firstNew; i < materials.size(); ++i) {
-        const MaterialPtr& m = materials.at(i);
+    for (qsizetype i = firstNew; i < m_materials.size(); ++i) {
+        const MaterialPtr& m = m_materials.at(i);
         // ASCII, the usual case, is lowered on the stack.
         char16_t ascii[5];
         const qsizetype take = std::min<qsizetype>(m->name.size(), 5);
@@ -425,14 +431,15 @@ void QORModel::loadGuideList()
                 list.append(std::make_shared<Guide>(fields[0].toString(), fields[1].toString()));
         }
     }
-    guides = std::move(list);
+    m_guides = std::move(list);
+    emit guidesChanged();
 }
 
 GuidePtr QORModel::dotGuideForMaterial(const Material* material) const
 {
     if (!material)
         return nullptr;
-    for (const auto& g : guides)
+    for (const auto& g : m_guides)
         if (g->guideId == material->guideId)
             return g;
     return nullptr;
@@ -604,12 +611,58 @@ void QORModel::changeFilter(const QString& abbrev)
 
 void QORModel::changeFilter(const QString& abbrev, int sort)
 {
-    const int previousSort = currentFilter ? currentFilter->sortType : 0;
-    currentFilter = filters.value(abbrev);
-    if (currentFilter)
+    const int previousSort = m_currentFilter ? m_currentFilter->sortType : 0;
+    m_currentFilter = m_filters.value(abbrev);
+    if (m_currentFilter)
         // The plain setter: sortImage deliberately stays as it was.
-        currentFilter->sortType = sort == -1 ? previousSort : sort;
-    emit filterChanged(currentFilter.get());
+        m_currentFilter->sortType = sort == -1 ? previousSort : sort;
+    emit filterChanged(m_currentFilter.get());
+}
+
+void QORModel::nextSortType()
+{
+    if (m_currentFilter)
+        m_currentFilter->nextSortType();
+}
+
+void QORModel::changeSortType(int sort)
+{
+    if (m_currentFilter)
+        m_currentFilter->changeSortType(sort);
+}
+
+void QORModel::setSortImage(const QString& image)
+{
+    if (m_currentFilter)
+        m_currentFilter->sortImage = image;
+}
+
+void QORModel::setHasIncidents(bool on)
+{
+    if (m_currentFilter)
+        m_currentFilter->hasIncidents = on;
+}
+
+void QORModel::setCategoryAbbrev(const QString& abbrev)
+{
+    if (m_currentFilter)
+        m_currentFilter->categoryAbbrev = abbrev;
+}
+
+void QORModel::invalidateCurrentFilter()
+{
+    if (m_currentFilter)
+        m_currentFilter->filteredArray.reset();
+}
+
+void QORModel::postFilterChanged()
+{
+    emit filterChanged(m_currentFilter.get());
+}
+
+void QORModel::postFilterChangeCancelled()
+{
+    emit filterChanged(nullptr);
 }
 
 MaterialList QORModel::getMaterialsUsingFilter(const Filter& filter)
@@ -618,13 +671,13 @@ MaterialList QORModel::getMaterialsUsingFilter(const Filter& filter)
     const bool inc = filter.hasIncidents;
     auto select = [&](auto pred) {
         MaterialList out;
-        for (const auto& m : std::as_const(materials))
+        for (const auto& m : std::as_const(m_materials))
             if (pred(*m) && (!inc || m->numIncidents() > 0))
                 out.append(m);
         return out;
     };
     if (abbrev == QLatin1String("A"))
-        return inc ? select([](const Material&) { return true; }) : materials;
+        return inc ? select([](const Material&) { return true; }) : m_materials;
     if (abbrev == QLatin1String("P"))
         return select([](const Material& m) { return m.mayPolymerize; });
     if (abbrev == QLatin1String("T"))
@@ -643,7 +696,7 @@ MaterialList QORModel::getMaterialsUsingFilter(const Filter& filter)
         return select([](const Material& m) { return m.methLab; });
     if (!abbrev.isEmpty() && abbrev.at(0).isDigit())
         return {};  // hazard-class categories: materials carry no class field
-    return materials;
+    return m_materials;
 }
 
 void QORModel::loadFilterWithData(Filter& filter)
@@ -654,16 +707,16 @@ void QORModel::loadFilterWithData(Filter& filter)
 
 const QORModel::SharedOrders& QORModel::sharedOrders()
 {
-    if (m_sharedOrders && m_sharedOrders->count == materials.size())
+    if (m_sharedOrders && m_sharedOrders->count == m_materials.size())
         return *m_sharedOrders;
     SharedOrders& orders = m_sharedOrders.emplace(SharedOrders{});
-    const int n = int(materials.size());
+    const int n = int(m_materials.size());
     orders.count = n;
     // Sort keys computed once per material rather than in every comparison.
     const size_t count = static_cast<size_t>(n);
     std::vector<int> guide(count), incidents(count), unId(count);
     for (int i = 0; i < n; ++i) {
-        const Material& m = *materials.at(i);
+        const Material& m = *m_materials.at(i);
         guide[size_t(i)] = leadingInt(m.guideId);
         incidents[size_t(i)] = m.numIncidents();
         unId[size_t(i)] = leadingInt(m.unId);
@@ -713,29 +766,21 @@ void QORModel::fillFilter(Filter& filter)
     filter.filteredArray = getMaterialsUsingFilter(filter);
     const MaterialList& list = *filter.filteredArray;
 
-    MaterialList* previous = nullptr;
-    QChar previousLetter;
-    for (const auto& m : list) {
-        const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
-        if (first.isLetter() && (first != previousLetter || !previous)) {
-            previous = &filter.alphaSections[QString(first)];
-            previousLetter = first;
-        }
-        if (previous)
-            previous->append(m);
-    }
+    AlphaSectioning alpha(filter.alphaSections);
+    for (const auto& m : list)
+        alpha.add(m);
 
     // The filter's members, by their place among all materials; the whole
     // list when the filter has every material.
     // The members come in the materials' order: one walk along both finds them.
     const SharedOrders& orders = sharedOrders();
-    const bool everything = list.size() == materials.size();
+    const bool everything = list.size() == m_materials.size();
     std::vector<char> member;
     if (!everything) {
-        member.assign(size_t(materials.size()), 0);
+        member.assign(size_t(m_materials.size()), 0);
         qsizetype next = 0;
-        for (qsizetype i = 0; i < materials.size() && next < list.size(); ++i)
-            if (materials.at(i) == list.at(next)) {
+        for (qsizetype i = 0; i < m_materials.size() && next < list.size(); ++i)
+            if (m_materials.at(i) == list.at(next)) {
                 member[size_t(i)] = 1;
                 ++next;
             }
@@ -743,8 +788,8 @@ void QORModel::fillFilter(Filter& filter)
             QSet<const Material*> members;
             for (const auto& m : list)
                 members.insert(m.get());
-            for (qsizetype i = 0; i < materials.size(); ++i)
-                member[size_t(i)] = members.contains(materials.at(i).get());
+            for (qsizetype i = 0; i < m_materials.size(); ++i)
+                member[size_t(i)] = members.contains(m_materials.at(i).get());
         }
     }
     auto restricted = [&](const std::vector<int>& order) {
@@ -752,7 +797,7 @@ void QORModel::fillFilter(Filter& filter)
         out.reserve(list.size());
         for (const int i : order)
             if (everything || member[size_t(i)])
-                out.append(materials.at(i));
+                out.append(m_materials.at(i));
         return out;
     };
     filter.guideSortedArray = restricted(orders.byGuide);
@@ -790,11 +835,11 @@ void QORModel::fillFilter(Filter& filter)
 
 MaterialList QORModel::getMaterials()
 {
-    if (!currentFilter)
+    if (!m_currentFilter)
         return {};
-    if (!currentFilter->filteredArray)
-        loadFilterWithData(*currentFilter);
-    return *currentFilter->filteredArray;
+    if (!m_currentFilter->filteredArray)
+        loadFilterWithData(*m_currentFilter);
+    return *m_currentFilter->filteredArray;
 }
 
 int QORModel::getNumMaterials()
@@ -804,20 +849,20 @@ int QORModel::getNumMaterials()
 
 QStringList QORModel::getSections()
 {
-    if (!currentFilter)
+    if (!m_currentFilter)
         return {};
-    if (!currentFilter->filteredArray)
-        loadFilterWithData(*currentFilter);
-    return currentFilter->sectionKeys(currentFilter->sortType);
+    if (!m_currentFilter->filteredArray)
+        loadFilterWithData(*m_currentFilter);
+    return m_currentFilter->sectionKeys(m_currentFilter->sortType);
 }
 
 MaterialList QORModel::materialsForSection(int section)
 {
     if (m_isLoading)
         return getLoadingMaterials();
-    if (!currentFilter)
+    if (!m_currentFilter)
         return {};
-    Filter& f = *currentFilter;
+    Filter& f = *m_currentFilter;
     if (!f.filteredArray)
         loadFilterWithData(f);
     if (f.sortType == SortIncidents)
@@ -895,9 +940,9 @@ const MaterialList& QORModel::getLoadingMaterials()
 
 QString QORModel::getDefaultSortImage() const
 {
-    if (currentFilter && !currentFilter->defaultSortImage.isEmpty())
-        return currentFilter->defaultSortImage;
-    return QStringLiteral("Sort-Alphabetically.png");
+    if (m_currentFilter && !m_currentFilter->defaultSortImage.isEmpty())
+        return m_currentFilter->defaultSortImage;
+    return packDefaultSortImageFallback();
 }
 
 } // namespace qor

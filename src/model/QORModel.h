@@ -40,8 +40,8 @@ public:
     bool serialize(const QVariant& value, const QString& filename);
 
     // --- fixed tables ---
-    QMap<QString, FilterPtr> filters;
-    FilterPtr currentFilter;
+    // The six standing filters by category letter.
+    const QMap<QString, FilterPtr>& filters() const { return m_filters; }
     FilterPtr allFilter, methFilter, tihFilter, tihCommonFilter, polyFilter, waterReactiveFilter;
     FilterPtr chemicalWarfareFilter;  // declared, never assigned by start-up
     QMap<QString, QString> packageGroupTextList;
@@ -57,7 +57,8 @@ public:
     void setShowFahrenheit(bool v) { m_showFahrenheit = v; }
 
     // --- materials ---
-    MaterialList materials;
+    // Every material of the materials file, in file order.
+    const MaterialList& materials() const { return m_materials; }
     QHash<QString, QString> descriptions;
     void loadMaterials();
     const QHash<QString, int>& getMaterialsWithIncidents();
@@ -67,7 +68,8 @@ public:
     std::optional<QString> classDescriptionForMaterial(const Material& material);
 
     // --- guides ---
-    QList<GuidePtr> guides;
+    const QList<GuidePtr>& guides() const { return m_guides; }
+    // Replaces the guides with the file's; announced by guidesChanged.
     void loadGuideList();
     GuidePtr dotGuideForMaterial(const Material* material) const;
 
@@ -92,6 +94,21 @@ public:
     static OrderedMap<QString> builtInLargeSpillIsoDistances(const QString& unId);
 
     // --- filters, sections, sort orders ---
+    // The filter the material list shows; null after an unknown category.
+    const Filter* currentFilter() const { return m_currentFilter.get(); }
+    // Changes to the current filter; each does nothing without one. None
+    // posts "filterchanged": the screens making them decide when it is due.
+    void nextSortType();
+    void changeSortType(int sort);
+    void setSortImage(const QString& image);
+    void setHasIncidents(bool on);
+    // Changes the letter of the current filter object, not which filter is current.
+    void setCategoryAbbrev(const QString& abbrev);
+    // Drops the current filter's lists, so they are rebuilt on next use.
+    void invalidateCurrentFilter();
+    // Posts "filterchanged" with the current filter, or with none.
+    void postFilterChanged();
+    void postFilterChangeCancelled();
     void changeFilter(const QString& abbrev);
     void changeFilter(const QString& abbrev, int sort);
     MaterialList getMaterialsUsingFilter(const Filter& filter);
@@ -143,13 +160,19 @@ signals:
     // "ModelLoadingStateChanged"
     void modelLoadingStateChanged();
     // "filterchanged"; the filter is null when there is none
-    void filterChanged(qor::Filter* filter);
+    void filterChanged(const qor::Filter* filter);
+    // loadGuideList replaced the guides.
+    void guidesChanged();
 
 private:
     void buildFixedTables();
     void loadViewedHistory();
     void logMemory(const char* where) const;
 
+    QMap<QString, FilterPtr> m_filters;
+    FilterPtr m_currentFilter;
+    MaterialList m_materials;
+    QList<GuidePtr> m_guides;
     bool m_isLoading = true;
     bool m_showCelsius = false;
     bool m_showFahrenheit = false;

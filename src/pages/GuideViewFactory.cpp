@@ -89,7 +89,7 @@ void GuideViewFactory::loadGuideList()
     m_guideViews = {};
     QORModel* model = QORModel::sharedInstance();
     model->loadGuideList();
-    for (const GuidePtr& guide : std::as_const(model->guides))
+    for (const GuidePtr& guide : std::as_const(model->guides()))
         m_guideViews.insert(guide->guideId, makeView(guide));
     startLoadingTimer();
 }
@@ -178,12 +178,12 @@ void GuideViewFactory::releaseGuides()
 {
     QORModel* model = QORModel::sharedInstance();
     QStringList ids;
-    for (const GuidePtr& g : std::as_const(model->guides))
+    for (const GuidePtr& g : std::as_const(model->guides()))
         ids.append(g->guideId);
     stopLoadingExcept(ids);
 
     m_guideViews = {};
-    for (const GuidePtr& guide : std::as_const(model->guides)) {
+    for (const GuidePtr& guide : std::as_const(model->guides())) {
         GuideViewPtr view = makeView(guide);
         {
             QMutexLocker locker(&view->mutex);

@@ -6,27 +6,6 @@
 
 namespace qor {
 
-namespace {
-
-// Generic entries share these UN ids with many names; only the listed names
-// stand for the whole number, so the others must not repeat its incidents.
-bool excludedGenericEntry(const Material& material)
-{
-    const QString& name = material.name;
-    switch (leadingInt(material.unId)) {
-    case 1760:
-        return name != QLatin1String("Corrosive Liquid, N.O.S.");
-    case 2810:
-        return name != QLatin1String("Toxic Liquid, Organic, N.O.S.") && name != QLatin1String("Poisonous Liquid, Organic, N.O.S.");
-    case 1993:
-        return name != QLatin1String("Combustible Liquid, N.O.S.") && name != QLatin1String("Flammable Liquid, N.O.S.");
-    default:
-        return false;
-    }
-}
-
-} // namespace
-
 void QORModel::addCount(QHash<QString, int>& counts, const QString& amountToAdd, const QString& key)
 {
     const int amount = leadingInt(amountToAdd);
@@ -40,7 +19,7 @@ QString QORModel::incidentsSummaryForMaterial(Material& material)
     if (material.incidentsSummary)
         return *material.incidentsSummary;
     // Deliberately without a full stop, and not cached.
-    if (material.unId.isEmpty() || excludedGenericEntry(material))
+    if (!material.carriesIncidentsOfItsNumber())
         return L::tr("There were no incidents reported to the National Response Center (NRC) in the last 12 months");
 
     QHash<QString, int> counts;

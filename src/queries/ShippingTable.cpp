@@ -182,7 +182,7 @@ MaterialPtr QORModel::guidebookRowForClass(const QString& hazardClass) const
     const auto cls = explosive.match(hazardClass.trimmed());
     if (!cls.hasMatch())
         return nullptr;
-    for (const auto& m : materials) {
+    for (const auto& m : m_materials) {
         if (std::any_of(m->unId.cbegin(), m->unId.cend(), [](QChar c) { return c.isDigit(); }))
             continue;
         for (auto it = division.globalMatch(m->name); it.hasNext();)

@@ -1,6 +1,7 @@
 #include "SpecialProvisions.h"
 
 #include "model/Device.h"
+#include "model/PackSchema.h"
 #include "model/Resources.h"
 #include "pages/PagePreparation.h"
 #include "pages/PageView.h"
@@ -15,25 +16,22 @@ namespace qor {
 
 SpecialProvisionGroup specialProvisionGroupForCode(const QString& code)
 {
-    auto group = [](const QString& key, const char* subtitle, const char* title) {
-        return SpecialProvisionGroup{ key, subtitle[0] ? L::tr(subtitle) : QString(), L::tr(title) };
+    // The page of the code decides its group; the texts go with the page.
+    static const struct { const char* page; const char* subtitle; const char* title; } texts[] = {
+        { "A", QT_TRANSLATE_NOOP("QOR", "Aircraft Transportation"), QT_TRANSLATE_NOOP("QOR", "Aircraft") },
+        { "B", QT_TRANSLATE_NOOP("QOR", "Bulk Packaging"), QT_TRANSLATE_NOOP("QOR", "Bulk Packaging") },
+        { "IB", QT_TRANSLATE_NOOP("QOR", "Intermediate Bulk Containers"), QT_TRANSLATE_NOOP("QOR", "IBC") },
+        { "IP", QT_TRANSLATE_NOOP("QOR", "Intermediate Bulk Containers"), QT_TRANSLATE_NOOP("QOR", "IBC") },
+        { "N", QT_TRANSLATE_NOOP("QOR", "Non-Bulk Packaging"), QT_TRANSLATE_NOOP("QOR", "Non-Bulk Packaging") },
+        { "TP", QT_TRANSLATE_NOOP("QOR", "IM and UN Specification Portable Tanks"), QT_TRANSLATE_NOOP("QOR", "Portable Tanks") },
+        { "T", QT_TRANSLATE_NOOP("QOR", "UN Portable Tanks"), QT_TRANSLATE_NOOP("QOR", "UN Portable Tanks") },
+        { "W", QT_TRANSLATE_NOOP("QOR", "Water Transportation"), QT_TRANSLATE_NOOP("QOR", "Water transport") },
     };
-    if (code.startsWith(QLatin1Char('A')))
-        return group(QStringLiteral("A"), QT_TRANSLATE_NOOP("QOR", "Aircraft Transportation"), QT_TRANSLATE_NOOP("QOR", "Aircraft"));
-    if (code.startsWith(QLatin1Char('B')))
-        return group(QStringLiteral("B"), QT_TRANSLATE_NOOP("QOR", "Bulk Packaging"), QT_TRANSLATE_NOOP("QOR", "Bulk Packaging"));
-    if (code.startsWith(QLatin1String("IB")) || code.startsWith(QLatin1String("IP")))
-        return group(code.left(2), QT_TRANSLATE_NOOP("QOR", "Intermediate Bulk Containers"), QT_TRANSLATE_NOOP("QOR", "IBC"));
-    if (code.startsWith(QLatin1Char('N')))
-        return group(QStringLiteral("N"), QT_TRANSLATE_NOOP("QOR", "Non-Bulk Packaging"), QT_TRANSLATE_NOOP("QOR", "Non-Bulk Packaging"));
-    if (code.startsWith(QLatin1String("TP")))
-        return group(QStringLiteral("TP"), QT_TRANSLATE_NOOP("QOR", "IM and UN Specification Portable Tanks"),
-                     QT_TRANSLATE_NOOP("QOR", "Portable Tanks"));
-    if (code.startsWith(QLatin1Char('T')))
-        return group(QStringLiteral("T"), QT_TRANSLATE_NOOP("QOR", "UN Portable Tanks"), QT_TRANSLATE_NOOP("QOR", "UN Portable Tanks"));
-    if (code.startsWith(QLatin1Char('W')))
-        return group(QStringLiteral("W"), QT_TRANSLATE_NOOP("QOR", "Water Transportation"), QT_TRANSLATE_NOOP("QOR", "Water transport"));
-    return group(QStringLiteral("numeric"), "", QT_TRANSLATE_NOOP("QOR", "Numeric Provisions"));
+    const QString page = specialProvisionPage(code);
+    for (const auto& t : texts)
+        if (page == QLatin1String(t.page))
+            return SpecialProvisionGroup{ page, L::tr(t.subtitle), L::tr(t.title) };
+    return SpecialProvisionGroup{ page, QString(), L::tr("Numeric Provisions") };
 }
 
 // ---------------------------------------------------------------- view
@@ -79,10 +77,7 @@ SpecialProvisionsViewFactory* SpecialProvisionsViewFactory::sharedInstance()
 
 const QStringList& SpecialProvisionsViewFactory::categoryKeys()
 {
-    static const QStringList keys = { QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("IB"),
-                                      QStringLiteral("IP"), QStringLiteral("N"), QStringLiteral("W"),
-                                      QStringLiteral("TP"), QStringLiteral("T"), QStringLiteral("numeric") };
-    return keys;
+    return specialProvisionPages();
 }
 
 QByteArray SpecialProvisionsViewFactory::dataForFile(const QString& path)

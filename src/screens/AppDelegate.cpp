@@ -81,8 +81,8 @@ void QORAppDelegate::showAllMaterialsWithSort(int sort)
 {
     QORModel* model = QORModel::sharedInstance();
     model->changeFilter(QStringLiteral("A"), sort);
-    if (model->currentFilter)
-        emit sortImageRequested(model->currentFilter->sortImages.value(sort));
+    if (model->currentFilter())
+        emit sortImageRequested(model->currentFilter()->sortImages.value(sort));
     emit endSearchRequested();
     setCurrentTab(MaterialsTab);
 }
@@ -92,6 +92,14 @@ void QORAppDelegate::showFilteredListForCategory(const QString& abbrev)
     QORModel::sharedInstance()->changeFilter(abbrev);
     emit endSearchRequested();
     setCurrentTab(MaterialsTab);
+}
+
+bool QORAppDelegate::showInDetailArea(const MaterialRef& material)
+{
+    if (!m_tablet)
+        return false;
+    showDetailForMaterial(material);
+    return true;
 }
 
 void QORAppDelegate::showDetailForMaterial(const MaterialRef& material)
@@ -129,13 +137,11 @@ bool QORAppDelegate::openUrl(const QString& url)
         });
         break;
     case AppLink::Chemical: {
-        MaterialPtr m = firstMaterialWithUnNumber(QORModel::sharedInstance()->materials, link.unId);
+        MaterialPtr m = firstMaterialWithUnNumber(QORModel::sharedInstance()->materials(), link.unId);
         if (!m)
             break;
         const MaterialRef ref(m);
-        if (m_tablet)
-            showDetailForMaterial(ref);
-        else
+        if (!showInDetailArea(ref))
             emit materialRequested(ref);
         QTimer::singleShot(kScrollLinkDelayMs, this, [this, ref] { emit scrollToMaterialRequested(ref); });
         break;

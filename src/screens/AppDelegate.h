@@ -49,6 +49,10 @@ public:
     Q_INVOKABLE void showAllMaterialsWithSort(int sort);
     Q_INVOKABLE void showFilteredListForCategory(const QString& abbrev);
     Q_INVOKABLE void showDetailForMaterial(const qor::MaterialRef& material);
+    // Where an opened material goes, decided here only: on a tablet into
+    // the detail area (true); on a phone nowhere yet (false), and the
+    // caller pushes the detail screen on its own stack.
+    Q_INVOKABLE bool showInDetailArea(const qor::MaterialRef& material);
     // Empties the detail area. QML cannot pass null for a MaterialRef: Qt
     // 6.4 copies such an argument from an invalid address.
     Q_INVOKABLE void clearDetail();

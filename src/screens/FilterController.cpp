@@ -11,17 +11,18 @@ FilterController::FilterController(QObject* parent) : QObject(parent)
 
 bool FilterController::incidentsOnly() const
 {
-    const auto& f = QORModel::sharedInstance()->currentFilter;
+    const Filter* f = QORModel::sharedInstance()->currentFilter();
     return f && f->hasIncidents;
 }
 
 void FilterController::setIncidentsOnly(bool on)
 {
-    const auto& f = QORModel::sharedInstance()->currentFilter;
+    QORModel* model = QORModel::sharedInstance();
+    const Filter* f = model->currentFilter();
     if (!f || f->hasIncidents == on)
         return;
-    f->hasIncidents = on;
-    f->changeSortType(on ? SortIncidents : SortAlpha);
+    model->setHasIncidents(on);
+    model->changeSortType(on ? SortIncidents : SortAlpha);
     emit incidentsOnlyChanged();
 }
 
@@ -33,14 +34,13 @@ void FilterController::refresh()
 void FilterController::done()
 {
     QORModel* model = QORModel::sharedInstance();
-    if (model->currentFilter)
-        model->currentFilter->filteredArray.reset();
-    emit model->filterChanged(model->currentFilter.get());
+    model->invalidateCurrentFilter();
+    model->postFilterChanged();
 }
 
 void FilterController::cancel()
 {
-    emit QORModel::sharedInstance()->filterChanged(nullptr);
+    QORModel::sharedInstance()->postFilterChangeCancelled();
 }
 
 CategoriesController::CategoriesController(QObject* parent) : QAbstractListModel(parent)
@@ -60,11 +60,11 @@ QVariant CategoriesController::data(const QModelIndex& index, int role) const
         return {};
     const auto& cat = cats.at(index.row());
     QORModel* model = QORModel::sharedInstance();
-    const bool current = model->currentFilter && model->currentFilter->categoryAbbrev == cat->abbrev;
+    const bool current = model->currentFilter() && model->currentFilter()->categoryAbbrev == cat->abbrev;
     switch (role) {
     case TextRole:
         if (current)
-            return L::tr("%1 (%2 %3)").arg(cat->name).arg(model->getMaterialsUsingFilter(*model->currentFilter).size()).arg(L::tr("found"));
+            return L::tr("%1 (%2 %3)").arg(cat->name).arg(model->getMaterialsUsingFilter(*model->currentFilter()).size()).arg(L::tr("found"));
         return cat->name;
     case CheckedRole:
         return current;
@@ -84,13 +84,13 @@ void CategoriesController::select(int row)
 {
     const auto cats = CategoryManager::sharedInstance()->orderedCategories();
     QORModel* model = QORModel::sharedInstance();
-    if (row < 0 || row >= cats.size() || !model->currentFilter)
+    if (row < 0 || row >= cats.size() || !model->currentFilter())
         return;
     // The first key that maps to the chosen category.
     const auto& all = CategoryManager::sharedInstance()->categories();
     for (auto it = all.cbegin(); it != all.cend(); ++it)
         if (it.value() == cats.at(row)) {
-            model->currentFilter->categoryAbbrev = it.key();
+            model->setCategoryAbbrev(it.key());
             break;
         }
     reload();

@@ -79,8 +79,14 @@ GuideListViewController::GuideListViewController(QObject* parent) : QAbstractLis
     m_loadGuidesTimer.setInterval(0);
     connect(&m_loadGuidesTimer, &QTimer::timeout, this, [this] { loadGuidesForCurrentView(m_first, m_last); });
     QORModel* model = QORModel::sharedInstance();
-    if (model->guides.isEmpty())
+    connect(model, &QORModel::guidesChanged, this, [this] {
+        beginResetModel();
+        m_guides = QORModel::sharedInstance()->guides();
+        endResetModel();
+    });
+    if (model->guides().isEmpty())
         model->loadGuideList();
+    m_guides = model->guides();
     GuideViewFactory* factory = GuideViewFactory::sharedInstance();
     auto* appearance = new Appearance(this);
     connect(appearance, &Appearance::darkChanged, this, [this, appearance] { appearanceChanged(appearance->dark()); });
@@ -90,15 +96,14 @@ GuideListViewController::GuideListViewController(QObject* parent) : QAbstractLis
 
 int GuideListViewController::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(QORModel::sharedInstance()->guides.size());
+    return parent.isValid() ? 0 : int(m_guides.size());
 }
 
 QVariant GuideListViewController::data(const QModelIndex& index, int role) const
 {
-    const QList<GuidePtr>& guides = QORModel::sharedInstance()->guides;
-    if (!index.isValid() || index.row() >= guides.size())
+    if (!index.isValid() || index.row() >= m_guides.size())
         return {};
-    const Guide& g = *guides.at(index.row());
+    const Guide& g = *m_guides.at(index.row());
     switch (role) {
     case GuideIdRole: return g.guideId;
     case NameRole: return g.name;
@@ -114,12 +119,11 @@ QHash<int, QByteArray> GuideListViewController::roleNames() const
 
 void GuideListViewController::loadGuidesForCurrentView(int firstRow, int lastRow)
 {
-    const QList<GuidePtr>& guides = QORModel::sharedInstance()->guides;
     firstRow = std::max(firstRow, 0);
-    lastRow = std::min(lastRow, int(guides.size()) - 1);
+    lastRow = std::min(lastRow, int(m_guides.size()) - 1);
     if (firstRow > lastRow)
         return;
-    GuideViewFactory::sharedInstance()->loadGuides(guides.mid(firstRow, lastRow - firstRow + 1));
+    GuideViewFactory::sharedInstance()->loadGuides(m_guides.mid(firstRow, lastRow - firstRow + 1));
 }
 
 void GuideListViewController::startLoadGuidesTimer(bool tracking, bool dragging, bool decelerating, int firstRow, int lastRow)
@@ -133,10 +137,9 @@ void GuideListViewController::startLoadGuidesTimer(bool tracking, bool dragging,
 
 QString GuideListViewController::selectGuide(int row)
 {
-    const QList<GuidePtr>& guides = QORModel::sharedInstance()->guides;
-    if (row < 0 || row >= guides.size())
+    if (row < 0 || row >= m_guides.size())
         return QString();
-    const QString id = guides.at(row)->guideId;
+    const QString id = m_guides.at(row)->guideId;
     GuideViewFactory::sharedInstance()->loadSelectedGuide(id);
     return id;
 }
@@ -163,10 +166,10 @@ QString GuideViewController::guideId() const
 void GuideViewController::setGuide(const QString& guideId)
 {
     QORModel* model = QORModel::sharedInstance();
-    if (model->guides.isEmpty())
+    if (model->guides().isEmpty())
         model->loadGuideList();
-    const auto it = std::find_if(model->guides.cbegin(), model->guides.cend(), [&](const GuidePtr& g) { return g->guideId == guideId; });
-    m_guide = it == model->guides.cend() ? std::make_shared<Guide>(guideId, QString()) : *it;
+    const auto it = std::find_if(model->guides().cbegin(), model->guides().cend(), [&](const GuidePtr& g) { return g->guideId == guideId; });
+    m_guide = it == model->guides().cend() ? std::make_shared<Guide>(guideId, QString()) : *it;
     emit guideChanged();
 }
 
@@ -334,7 +337,7 @@ void InfoViewController::decidePolicyForNavigation(const QString& link)
         if (ok)
             id = QString::number(n);
     }
-    const QList<GuidePtr>& guides = QORModel::sharedInstance()->guides;
+    const QList<GuidePtr>& guides = QORModel::sharedInstance()->guides();
     const bool known = std::any_of(guides.cbegin(), guides.cend(), [&](const GuidePtr& g) { return g->guideId == id; });
     if (!known)
         return;

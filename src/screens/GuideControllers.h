@@ -64,6 +64,9 @@ public:
     bool isLoadGuidesTimerActive() const { return m_loadGuidesTimer.isActive(); }
 
 private:
+    // The model's guides as the rows show them; replaced in a model reset
+    // when the model loads its guide list again.
+    QList<GuidePtr> m_guides;
     QTimer m_loadGuidesTimer;
     int m_first = 0;
     int m_last = -1;

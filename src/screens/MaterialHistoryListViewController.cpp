@@ -3,7 +3,6 @@
 #include "AppDelegate.h"
 #include "MaterialRows.h"
 #include "history/Clock.h"
-#include "model/Device.h"
 #include "model/QORModel.h"
 #include "model/Resources.h"
 
@@ -183,8 +182,7 @@ void MaterialHistoryListViewController::selectRow(int row)
     const MaterialPtr material = materialInCurrentViewAtRow(row);
     if (!material)
         return;
-    if (Device::isTablet()) {
-        QORAppDelegate::sharedInstance()->showDetailForMaterial(MaterialRef(material));
+    if (QORAppDelegate::sharedInstance()->showInDetailArea(MaterialRef(material))) {
         reload();
         return;
     }

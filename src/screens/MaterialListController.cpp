@@ -26,13 +26,17 @@ MaterialListController::MaterialListController(QObject* parent)
     QORModel* model = QORModel::sharedInstance();
     connect(model, &QORModel::filterChanged, this, &MaterialListController::onFilterChanged);
     connect(model, &QORModel::modelLoadingStateChanged, this, &MaterialListController::onLoadingStateChanged);
+    // Guide sections are titled with the guides' names, which may arrive after the rows.
+    connect(model, &QORModel::guidesChanged, this, [this] {
+        if (!searching() && sortType() == SortGuide)
+            rebuildRows();
+    });
     // An index row of Reference puts the image of its order on the sort button.
     connect(QORAppDelegate::sharedInstance(), &QORAppDelegate::sortImageRequested, this, [this](const QString& image) {
-        if (const auto& f = QORModel::sharedInstance()->currentFilter)
-            f->sortImage = image;
+        QORModel::sharedInstance()->setSortImage(image);
         emit listChanged();
     });
-    m_title = model->currentFilter ? model->currentFilter->getFilterText() : L::tr(" Loading...");
+    m_title = model->currentFilter() ? model->currentFilter()->getFilterText() : L::tr(" Loading...");
     rebuildRows();
 }
 
@@ -43,19 +47,19 @@ bool MaterialListController::loading() const
 
 int MaterialListController::sortType() const
 {
-    const auto& f = QORModel::sharedInstance()->currentFilter;
+    const Filter* f = QORModel::sharedInstance()->currentFilter();
     return f ? f->sortType : 0;
 }
 
 QString MaterialListController::sortImage() const
 {
-    const auto& f = QORModel::sharedInstance()->currentFilter;
+    const Filter* f = QORModel::sharedInstance()->currentFilter();
     return f ? f->sortImage : QORModel::sharedInstance()->getDefaultSortImage();
 }
 
 QString MaterialListController::categoryAbbrev() const
 {
-    const auto& f = QORModel::sharedInstance()->currentFilter;
+    const Filter* f = QORModel::sharedInstance()->currentFilter();
     return f ? f->categoryAbbrev : QString();
 }
 
@@ -98,7 +102,7 @@ void MaterialListController::setSearchText(const QString& text)
     emit searchTextChanged();
     m_searchTimer.stop();
     if (text.isEmpty()) {
-        const auto& f = QORModel::sharedInstance()->currentFilter;
+        const Filter* f = QORModel::sharedInstance()->currentFilter();
         setTitle(f ? f->getFilterText() : QString());
         m_search.reset();
         m_suggestions.clear();
@@ -125,11 +129,11 @@ void MaterialListController::searchNow()
         return;
     }
     QORModel* model = QORModel::sharedInstance();
-    if (!m_search.search(m_searchText, model->currentFilter.get(), model->materials, sortType()))
+    if (!m_search.search(m_searchText, model->currentFilter(), model->materials(), sortType()))
         return;  // the same text as last time: the results stand
     // Names are not searched in the UN-number sort, so not suggested there either.
     m_suggestions = m_search.results().isEmpty() && sortType() != 1
-        ? m_suggester.suggestMaterials(m_searchText, model->materials)
+        ? m_suggester.suggestMaterials(m_searchText, model->materials())
         : MaterialList();
     setTitle(L::tr("%1 %2").arg(m_search.results().size()).arg(L::tr("search results")));
     rebuildRows();
@@ -155,16 +159,16 @@ MaterialRef MaterialListController::suggestionAt(int index) const
 void MaterialListController::doneSearch()
 {
     setSearchText(QString());
-    const auto& f = QORModel::sharedInstance()->currentFilter;
+    const Filter* f = QORModel::sharedInstance()->currentFilter();
     setTitle(f ? f->getFilterText() : QString());
 }
 
 void MaterialListController::nextSort()
 {
     QORModel* model = QORModel::sharedInstance();
-    if (!model->currentFilter)
+    if (!model->currentFilter())
         return;
-    model->currentFilter->nextSortType();
+    model->nextSortType();
     rebuildRows();
     emit scrollToTop();
 }
@@ -174,7 +178,7 @@ void MaterialListController::chooseCategory(const QString& abbrev)
     QORModel::sharedInstance()->changeFilter(abbrev);
 }
 
-void MaterialListController::onFilterChanged(Filter* filter)
+void MaterialListController::onFilterChanged(const Filter* filter)
 {
     setTitle(filter ? L::tr(" %1").arg(filter->getFilterText()) : L::tr(" Loading..."));
     setSelectedRow(-1);
@@ -190,9 +194,9 @@ void MaterialListController::onFilterChanged(Filter* filter)
 void MaterialListController::onLoadingStateChanged()
 {
     QORModel* model = QORModel::sharedInstance();
-    if (model->currentFilter)
-        setTitle(model->currentFilter->getFilterText());
-    emit model->filterChanged(model->currentFilter.get());
+    if (model->currentFilter())
+        setTitle(model->currentFilter()->getFilterText());
+    model->postFilterChanged();
     setSelectedRow(-1);
     rebuildRows();
 }
@@ -204,7 +208,7 @@ QString MaterialListController::sectionTitle(const QString& key) const
         return QStringLiteral("A");
     switch (sortType()) {
     case SortGuide:
-        for (const auto& g : model->guides)
+        for (const auto& g : model->guides())
             if (g->guideId == key)
                 return L::tr("%1 %2 - %3").arg(L::tr("Guide"), key, capitalized(g->name));
         return key;

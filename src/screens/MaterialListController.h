@@ -115,7 +115,7 @@ private:
         QString sectionKey;
         QString sectionTitle;
     };
-    void onFilterChanged(Filter* filter);
+    void onFilterChanged(const Filter* filter);
     void onLoadingStateChanged();
     void rebuildRows();
     void setTitle(const QString& title);

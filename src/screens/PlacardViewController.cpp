@@ -92,9 +92,9 @@ QString PlacardViewController::selectRow(int row)
         return {};
     QORModel* model = QORModel::sharedInstance();
     // The guide list arrives with the guide page builder; a tap can come first.
-    if (model->guides.isEmpty())
+    if (model->guides().isEmpty())
         model->loadGuideList();
-    for (const GuidePtr& guide : std::as_const(model->guides)) {
+    for (const GuidePtr& guide : std::as_const(model->guides())) {
         if (guide && guide->guideId == ref) {
             GuideViewFactory::sharedInstance()->loadGuides({ guide });
             emit guideRequested(ref);

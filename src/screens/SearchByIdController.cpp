@@ -48,7 +48,7 @@ void SearchByIdController::searchNow()
     ++m_searchCount;
     QORModel* model = QORModel::sharedInstance();
     MaterialPtr found;
-    for (const auto& m : std::as_const(model->materials))
+    for (const auto& m : std::as_const(model->materials()))
         if (m->unId == m_text) {
             found = m;
             break;

@@ -17,11 +17,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 
     QORModel model;
     model.loadMaterials();
-    for (const auto& filter : std::as_const(model.filters))
+    for (const auto& filter : std::as_const(model.filters()))
         model.loadFilterWithData(*filter);
     model.loadGuideList();
     model.loadWikipediaDescriptions();
-    for (const auto& m : std::as_const(model.materials)) {
+    for (const auto& m : std::as_const(model.materials())) {
         model.dotGuideForMaterial(m.get());
         (void)m->numIncidents();
     }

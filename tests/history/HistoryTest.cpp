@@ -319,7 +319,7 @@ TEST_F(HistoryTest, TheModelLoadsTheHistoryWhileLoadingAndSavesItWithItsData)
         ModelFixture model;
         HistoryManager& shared = *HistoryManager::sharedInstance();
         EXPECT_TRUE(shared.historyObjectForKey("1017"));
-        shared.addToHistory(QORModel::sharedInstance()->materials.first());
+        shared.addToHistory(QORModel::sharedInstance()->materials().first());
         QORModel::sharedInstance()->saveData();
         EXPECT_TRUE(QORModel::sharedInstance()->serialize(QVariantList{ 1 }, "model.dat"));
     }
@@ -340,7 +340,7 @@ TEST_F(HistoryTest, EntriesFromDiskBecomeThePacksOwnMaterialWhenItStillHasIt)
     delete HistoryManager::sharedInstance(false);
     {
         ModelFixture model;
-        const MaterialList& materials = QORModel::sharedInstance()->materials;
+        const MaterialList& materials = QORModel::sharedInstance()->materials();
         HistoryManager& shared = *HistoryManager::sharedInstance();
         const HistoryObjectPtr sodium = shared.historyObjectForKey("1428");
         ASSERT_TRUE(sodium);

@@ -44,7 +44,7 @@ struct Filters : ::testing::Test {
 
 TEST_F(Filters, CategoriesSelectTheirMaterials)
 {
-    EXPECT_EQ(model->filters.keys(), QStringList({ "A", "M", "P", "T", "U", "W" }));
+    EXPECT_EQ(model->filters().keys(), QStringList({ "A", "M", "P", "T", "U", "W" }));
     EXPECT_EQ(model->allFilter->filteredArray->size(), 9);
     EXPECT_EQ(names(*model->tihFilter->filteredArray),
               QStringList({ "Chlorine", "Ammonia, Anhydrous", "Acrolein, Stabilized", "Phosgene" }));
@@ -92,15 +92,15 @@ TEST_F(Filters, ChangingCategoryCarriesTheSortButNotItsImage)
     QSignalSpy spy(model, &QORModel::filterChanged);
     model->allFilter->changeSortType(SortGuide);
     model->changeFilter("T");
-    EXPECT_EQ(model->currentFilter, model->tihFilter);
+    EXPECT_EQ(model->currentFilter(), model->tihFilter.get());
     EXPECT_EQ(model->tihFilter->sortType, SortGuide);
     EXPECT_EQ(model->tihFilter->sortImage, "Sort-Alphabetically.pdf") << "the plain setter leaves the image";
     ASSERT_EQ(spy.count(), 1);
-    EXPECT_EQ(spy.at(0).at(0).value<Filter*>(), model->tihFilter.get());
+    EXPECT_EQ(spy.at(0).at(0).value<const Filter*>(), model->tihFilter.get());
 
     model->changeFilter("Q");
-    EXPECT_FALSE(model->currentFilter) << "an unknown category leaves no current filter";
-    EXPECT_EQ(spy.at(1).at(0).value<Filter*>(), nullptr);
+    EXPECT_FALSE(model->currentFilter()) << "an unknown category leaves no current filter";
+    EXPECT_EQ(spy.at(1).at(0).value<const Filter*>(), nullptr);
     EXPECT_TRUE(model->getSections().isEmpty());
     EXPECT_EQ(model->getDefaultSortImage(), "Sort-Alphabetically.png");
 }
@@ -130,7 +130,7 @@ TEST(FiltersLoading, PlaceholderListUntilLoaded)
     ModelFixture fixture(false);
     QORModel* model = QORModel::sharedInstance();
     EXPECT_TRUE(model->isLoading());
-    EXPECT_TRUE(model->materials.isEmpty());
+    EXPECT_TRUE(model->materials().isEmpty());
     EXPECT_EQ(model->allFilter->getFilterText(), " Loading...");
     const MaterialList placeholder = model->materialsForSection(7);
     ASSERT_FALSE(placeholder.isEmpty());
@@ -148,7 +148,7 @@ TEST(FiltersLoading, LoadingAnnouncesItselfOnceThenTheFilter)
     QORModel* model = QORModel::sharedInstance();
     QStringList order;
     QObject::connect(model, &QORModel::modelLoadingStateChanged, [&] { order << QORModel::kModelLoadingStateChanged; });
-    QObject::connect(model, &QORModel::filterChanged, [&](Filter* f) {
+    QObject::connect(model, &QORModel::filterChanged, [&](const Filter* f) {
         order << QORModel::kFilterChanged;
         EXPECT_EQ(f, model->allFilter.get());
     });
@@ -157,7 +157,7 @@ TEST(FiltersLoading, LoadingAnnouncesItselfOnceThenTheFilter)
     ASSERT_TRUE(spy.wait(2000));
     EXPECT_EQ(order, QStringList({ "ModelLoadingStateChanged", "filterchanged" }));
     EXPECT_FALSE(model->isLoading());
-    EXPECT_EQ(model->materials.size(), kMaterials.size());
+    EXPECT_EQ(model->materials().size(), kMaterials.size());
 }
 
 TEST(FiltersLoading, PlaceholderFollowsTheFirstPreferredLanguage)
@@ -211,7 +211,7 @@ TEST_F(Filters, EveryFilterSortsItsOwnMembersStably)
     const auto unId = [](const Material& m) { return leadingInt(m.unId); };
     model->tihFilter->hasIncidents = true;
     model->loadFilterWithData(*model->tihFilter);
-    for (const auto& filter : std::as_const(model->filters)) {
+    for (const auto& filter : std::as_const(model->filters())) {
         SCOPED_TRACE(filter->categoryAbbrev.toStdString());
         const MaterialList& members = *filter->filteredArray;
         EXPECT_EQ(names(filter->guideSortedArray), stableBy(members, guide, false));

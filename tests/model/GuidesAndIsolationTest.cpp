@@ -19,14 +19,14 @@ TEST(Guides, FirstMatchingGuideAndReloadWithoutDuplicates)
     QORModel* m = QORModel::sharedInstance();
     m->loadGuideList();
     m->loadGuideList();
-    ASSERT_EQ(m->guides.size(), 3);
-    EXPECT_EQ(m->dotGuideForMaterial(m->materials.at(0).get())->name, "Flammable Liquids (Water-Miscible)");
-    EXPECT_FALSE(m->dotGuideForMaterial(m->materials.at(1).get()));
+    ASSERT_EQ(m->guides().size(), 3);
+    EXPECT_EQ(m->dotGuideForMaterial(m->materials().at(0).get())->name, "Flammable Liquids (Water-Miscible)");
+    EXPECT_FALSE(m->dotGuideForMaterial(m->materials().at(1).get()));
     EXPECT_FALSE(m->dotGuideForMaterial(nullptr));
 
     pack.setGuides({ "^Guide without a number" });
     m->loadGuideList();
-    EXPECT_EQ(m->dotGuideForMaterial(m->materials.at(1).get())->name, "Guide without a number");
+    EXPECT_EQ(m->dotGuideForMaterial(m->materials().at(1).get())->name, "Guide without a number");
 }
 
 TEST(Isolation, ConditionsRecordsAndCaching)
@@ -41,7 +41,7 @@ TEST(Isolation, ConditionsRecordsAndCaching)
     ModelFixture model;
     QORModel* m = QORModel::sharedInstance();
 
-    Material& thionyl = *m->materials.at(0);
+    Material& thionyl = *m->materials().at(0);
     const IsolationDistances& iso = m->isolationDistancesForMaterial(thionyl);
     ASSERT_EQ(iso.keys(), QStringList({ "default", "When Spilled in Water" })) << "database row order";
     const IsolationRecord water = iso.value("When Spilled in Water");
@@ -52,11 +52,11 @@ TEST(Isolation, ConditionsRecordsAndCaching)
     EXPECT_EQ(water.size(), 13);
     EXPECT_EQ(&m->isolationDistancesForMaterial(thionyl), &iso) << "the cached map is returned";
 
-    const IsolationDistances& ammonia = m->isolationDistancesForMaterial(*m->materials.at(2));
+    const IsolationDistances& ammonia = m->isolationDistancesForMaterial(*m->materials().at(2));
     ASSERT_EQ(ammonia.keys(), QStringList({ "default" })) << "an empty condition reads as default";
     EXPECT_EQ(ammonia.value("default").size(), 7) << "no large-spill keys without column 8";
 
-    Material& acetone = *m->materials.at(1);
+    Material& acetone = *m->materials().at(1);
     EXPECT_TRUE(m->isolationDistancesForMaterial(acetone).isEmpty());
     EXPECT_TRUE(acetone.isolationDistances.has_value()) << "an empty answer is cached too";
     m->releaseUnneededMemory();
@@ -77,7 +77,7 @@ TEST(Isolation, NonNumericIdFailsQuietly)
     ModelFixture model;
     QORModel* m = QORModel::sharedInstance();
     auto withId = [m](const QString& id) -> Material& {
-        for (const auto& material : std::as_const(m->materials))
+        for (const auto& material : std::as_const(m->materials()))
             if (material->unId == id)
                 return *material;
         throw std::runtime_error("no such material");
@@ -101,10 +101,10 @@ TEST(Isolation, ContainerTableFromThePackOrBuiltIn)
                  "insert into large_spill_distances values ('2186','Highway tank truck or trailer','200','600','1.5','0.9','0.8','0.5','0.6','0.4','3.7','2.3','1.5','0.9','0.8','0.5');");
         ModelFixture model;
         QORModel* m = QORModel::sharedInstance();
-        const OrderedMap<QString> hcl = m->largeSpillIsoDistancesForMaterial(*m->materials.at(0));
+        const OrderedMap<QString> hcl = m->largeSpillIsoDistancesForMaterial(*m->materials().at(0));
         EXPECT_EQ(hcl.keys(), QStringList({ "Rail tank car", "Highway tank truck or trailer" }));
         EXPECT_EQ(hcl.value("Rail tank car"), "500,1500,3.7,2.3,2.0,1.3,1.7,1.1,9.7,6.1,3.3,2.1,2.2,1.4");
-        EXPECT_TRUE(m->largeSpillIsoDistancesForMaterial(*m->materials.at(1)).isEmpty()) << "the pack's table is the whole answer";
+        EXPECT_TRUE(m->largeSpillIsoDistancesForMaterial(*m->materials().at(1)).isEmpty()) << "the pack's table is the whole answer";
     }
     {
         // Without rows, the built-in table answers, with the guidebook's figures.
@@ -112,7 +112,7 @@ TEST(Isolation, ContainerTableFromThePackOrBuiltIn)
         pack.setMaterials({ "SULFUR DIOXIDE^2.3^125^1079^X^^" });
         ModelFixture model;
         QORModel* m = QORModel::sharedInstance();
-        const OrderedMap<QString> so2 = m->largeSpillIsoDistancesForMaterial(*m->materials.at(0));
+        const OrderedMap<QString> so2 = m->largeSpillIsoDistancesForMaterial(*m->materials().at(0));
         ASSERT_EQ(so2.count(), 4);
         EXPECT_EQ(so2.value("Multiple ton cylinders").split(',').at(11), "2.5");
     }
@@ -137,14 +137,14 @@ TEST(Isolation, AMaterialsOwnZoneOrNameComesFirst)
     ModelFixture model;
     QORModel* m = QORModel::sharedInstance();
     // Names are shown capitalized; the match ignores case.
-    Material& zoneB = *m->materials.at(1);
+    Material& zoneB = *m->materials().at(1);
     ASSERT_EQ(zoneB.name, "Compressed Gas, Toxic, N.O.S. (Inhalation Hazard Zone B)");
     EXPECT_EQ(m->isolationConditionsForMaterial(zoneB),
               QStringList({ "Inhalation Hazard Zone B", "Compressed gas, toxic, n.o.s.", "Inhalation Hazard Zone A" }));
-    EXPECT_EQ(m->isolationConditionsForMaterial(*m->materials.at(0)).first(), "Compressed gas, toxic, n.o.s.");
-    EXPECT_EQ(m->isolationConditionsForMaterial(*m->materials.at(2)),
+    EXPECT_EQ(m->isolationConditionsForMaterial(*m->materials().at(0)).first(), "Compressed gas, toxic, n.o.s.");
+    EXPECT_EQ(m->isolationConditionsForMaterial(*m->materials().at(2)),
               QStringList({ "Methyl phosphonous dichloride", "Ethyl phosphonous dichloride, anhydrous" }));
-    EXPECT_EQ(m->isolationConditionsForMaterial(*m->materials.at(3)), QStringList({ "When Spilled on Land", "When Spilled in Water" }))
+    EXPECT_EQ(m->isolationConditionsForMaterial(*m->materials().at(3)), QStringList({ "When Spilled on Land", "When Spilled in Water" }))
         << "spill conditions keep table order";
 }
 

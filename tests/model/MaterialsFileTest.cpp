@@ -14,7 +14,7 @@ namespace {
 
 MaterialPtr byName(const QString& name)
 {
-    for (const auto& m : QORModel::sharedInstance()->materials)
+    for (const auto& m : QORModel::sharedInstance()->materials())
         if (m->name == name)
             return m;
     return nullptr;
@@ -38,7 +38,7 @@ TEST(MaterialsFile, NamesMarksAndCaptions)
     });
     ModelFixture model;
 
-    ASSERT_EQ(QORModel::sharedInstance()->materials.size(), 8);
+    ASSERT_EQ(QORModel::sharedInstance()->materials().size(), 8);
     EXPECT_TRUE(byName("AC")) << "short names are kept as written";
     EXPECT_TRUE(byName("Acetone"));
     EXPECT_TRUE(byName("Acetic Acid, Glacial"));
@@ -72,11 +72,11 @@ TEST(MaterialsFile, ShortLinesAreSkippedAndMissingFileGivesNoMaterials)
     pack.setMaterials({ "TOO^FEW^FIELDS", "", "ACETONE^3^127^1090^^^" });
     {
         ModelFixture model;
-        EXPECT_EQ(QORModel::sharedInstance()->materials.size(), 1);
+        EXPECT_EQ(QORModel::sharedInstance()->materials().size(), 1);
     }
     QFile::remove(pack.path("chemicals_2024.csv"));
     ModelFixture model;
-    EXPECT_TRUE(QORModel::sharedInstance()->materials.isEmpty());
+    EXPECT_TRUE(QORModel::sharedInstance()->materials().isEmpty());
     EXPECT_FALSE(QORModel::sharedInstance()->isLoading()) << "loading completes without the file";
 }
 
@@ -173,7 +173,7 @@ TEST(MaterialsFile, PrefixKeysAreThoseOfTheWholeNameInLowerCase)
     ModelFixture model;
     QORModel* m = QORModel::sharedInstance();
     QHash<QString, QStringList> expected;
-    for (const auto& material : m->materials) {
+    for (const auto& material : m->materials()) {
         const QString lower = material->name.toLower();
         for (int k = 0; k <= 3; ++k)
             expected[lower.left(std::max<qsizetype>(lower.size() <= k ? lower.size() - 1 : k, 0))] << material->name;

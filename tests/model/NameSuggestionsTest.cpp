@@ -40,7 +40,7 @@ struct SuggestionTest : ::testing::Test {
     QStringList suggestedIds(const QString& text)
     {
         QStringList ids;
-        for (const auto& m : NameSuggestions().suggestMaterials(text, model->materials))
+        for (const auto& m : NameSuggestions().suggestMaterials(text, model->materials()))
             ids << m->unId;
         return ids;
     }
@@ -59,7 +59,7 @@ TEST_F(SuggestionTest, EachMisspellingFindsItsMaterialFirst)
     };
     for (const auto& c : cases) {
         MaterialSearch search;
-        search.search(c.typed, model->allFilter.get(), model->materials, 0);
+        search.search(c.typed, model->allFilter.get(), model->materials(), 0);
         EXPECT_TRUE(search.results().isEmpty()) << c.typed << " must be a search that finds nothing";
         const QStringList ids = suggestedIds(c.typed);
         ASSERT_FALSE(ids.isEmpty()) << c.typed;
@@ -71,7 +71,7 @@ TEST_F(SuggestionTest, EachMisspellingFindsItsMaterialFirst)
 
 TEST_F(SuggestionTest, AtMostFiveBestFirstAndNothingForUnrelatedText)
 {
-    const auto list = NameSuggestions().suggest("hydrogen sulfde", model->materials);
+    const auto list = NameSuggestions().suggest("hydrogen sulfde", model->materials());
     ASSERT_GE(list.size(), 2u);
     EXPECT_LE(list.size(), size_t(NameSuggestions::kMaxSuggestions));
     for (size_t i = 1; i < list.size(); ++i)
@@ -120,7 +120,7 @@ TEST(NameSimilarity, ScoresWholeWordsAndIgnoresCaseAndPunctuation)
 TEST_F(SuggestionTest, NewListIsReindexed)
 {
     NameSuggestions s;
-    EXPECT_EQ(s.suggestMaterials("clorine", model->materials).value(0)->unId, "1017");
+    EXPECT_EQ(s.suggestMaterials("clorine", model->materials()).value(0)->unId, "1017");
     MaterialList other;
     auto xenon = std::make_shared<Material>();
     xenon->name = "Xenon";

@@ -48,7 +48,7 @@ protected:
     QSet<QString> namesUnder(const QString& unId)
     {
         QSet<QString> names;
-        for (const auto& m : std::as_const(model().materials))
+        for (const auto& m : std::as_const(model().materials()))
             if (m->unId == unId)
                 names.insert(m->name);
         return names;
@@ -169,9 +169,9 @@ TEST(BundledPackPages, AboutNamesTheOfficialDocuments)
 TEST_F(BundledPack, HoldsTheGuidebookIndex)
 {
     // One material per row of the guidebook's yellow index, nothing more.
-    EXPECT_EQ(model().materials.size(), 2771);
+    EXPECT_EQ(model().materials().size(), 2771);
     QSet<QString> ids;
-    for (const auto& m : std::as_const(model().materials))
+    for (const auto& m : std::as_const(model().materials()))
         ids.insert(m->unId);
     for (const char* id : { "1005", "1017", "1040", "1050", "2186", "1052", "1079", "1051", "1088", "1089", "1090", "1541",
                             "1754", "1956" })
@@ -184,7 +184,7 @@ TEST_F(BundledPack, HoldsTheGuidebookIndex)
 TEST_F(BundledPack, Un1005ShowsTheGuidebooksFigures)
 {
     MaterialPtr ammonia;
-    for (const auto& m : std::as_const(model().materials))
+    for (const auto& m : std::as_const(model().materials()))
         if (m->unId == QLatin1String("1005") && m->name == QLatin1String("Ammonia, Anhydrous"))
             ammonia = m;
     ASSERT_TRUE(ammonia);
@@ -208,7 +208,7 @@ TEST_F(BundledPack, Un1005ShowsTheGuidebooksFigures)
 TEST_F(BundledPack, WaterReactiveMaterialsKeepLandBeforeWater)
 {
     MaterialPtr bromine;
-    for (const auto& m : std::as_const(model().materials))
+    for (const auto& m : std::as_const(model().materials()))
         if (m->unId == QLatin1String("1746"))
             bromine = m;
     ASSERT_TRUE(bromine);
@@ -232,7 +232,7 @@ TEST_F(BundledPack, GenericNamesCountOnlyUnderTheirOwnName)
     EXPECT_GE(n2810.size(), 3);
     EXPECT_GE(n1993.size(), 4);
     // Incidents of 1993 exist, yet only the two named entries show them.
-    for (const auto& m : std::as_const(model().materials))
+    for (const auto& m : std::as_const(model().materials()))
         if (m->unId == QLatin1String("1993"))
             EXPECT_EQ(m->numIncidents() > 0, m->name == QLatin1String("Flammable Liquid, N.O.S.") || m->name == QLatin1String("Combustible Liquid, N.O.S.")) << m->name.toStdString();
 }
@@ -240,7 +240,7 @@ TEST_F(BundledPack, GenericNamesCountOnlyUnderTheirOwnName)
 TEST_F(BundledPack, EveryKindOfMarkAndName)
 {
     bool tihX = false, gasList = false, water = false, meth = false, warfare = false, poly = false, digit = false, shortName = false;
-    for (const auto& m : std::as_const(model().materials)) {
+    for (const auto& m : std::as_const(model().materials())) {
         tihX |= m->toxicInhalationHazard == QStringLiteral("X");
         gasList |= m->toxicInhalationHazard && m->toxicInhalationHazard->contains(QLatin1Char(','));
         water |= m->waterReactive == QStringLiteral("W");
@@ -253,15 +253,15 @@ TEST_F(BundledPack, EveryKindOfMarkAndName)
     EXPECT_TRUE(tihX && gasList && water && poly && digit && shortName);
     // The guidebook marks no meth-lab or warfare materials: those categories are empty.
     EXPECT_FALSE(meth || warfare);
-    for (const auto& f : std::as_const(model().filters))
+    for (const auto& f : std::as_const(model().filters()))
         if (f->categoryAbbrev != QLatin1String("M") && f->categoryAbbrev != QLatin1String("Z"))
             EXPECT_FALSE(f->filteredArray->isEmpty()) << f->categoryAbbrev.toStdString();
     QStringList guideIds;
-    for (const auto& g : std::as_const(model().guides))
+    for (const auto& g : std::as_const(model().guides()))
         guideIds << g->guideId;
     if (guideIds.isEmpty()) {
         model().loadGuideList();
-        for (const auto& g : std::as_const(model().guides))
+        for (const auto& g : std::as_const(model().guides()))
             guideIds << g->guideId;
     }
     // The guidebook numbers its guides 111 to 174; 121 and 167 are left blank.
@@ -288,8 +288,8 @@ TEST_F(BundledPack, GuidePagesHoldTheGuidebooksWords)
     EXPECT_TRUE(howto.contains(QStringLiteral("<title>HOW TO USE THE ORANGE GUIDES</title>")));
     EXPECT_TRUE(howto.contains(QStringLiteral("<h1 id=\"general-first-aid\">GENERAL FIRST AID</h1>")));
     const QORModel& m = model();
-    const auto g = std::find_if(m.guides.cbegin(), m.guides.cend(), [](const auto& guide) { return guide->guideId == QLatin1String("125"); });
-    if (g != m.guides.cend())
+    const auto g = std::find_if(m.guides().cbegin(), m.guides().cend(), [](const auto& guide) { return guide->guideId == QLatin1String("125"); });
+    if (g != m.guides().cend())
         EXPECT_EQ((*g)->name, QStringLiteral("Gases - Toxic and/or Corrosive"));
 }
 

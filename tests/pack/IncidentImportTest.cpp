@@ -165,7 +165,7 @@ TEST_F(ImportFiles, TheModelCountsTheImportedDatabase)
     ModelFixture model;
     const auto& counts = QORModel::sharedInstance()->getMaterialsWithIncidents();
     EXPECT_EQ(counts.value(QStringLiteral("3266")), 17);
-    EXPECT_EQ(QORModel::sharedInstance()->materials.at(1)->numIncidents(), 17);
+    EXPECT_EQ(QORModel::sharedInstance()->materials().at(1)->numIncidents(), 17);
 }
 
 } // namespace

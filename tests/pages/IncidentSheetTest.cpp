@@ -103,7 +103,7 @@ TEST_F(SheetTest, TimeMadeCarriesItsOffset)
     delete QORModel::sharedInstance(false);
     test::ModelFixture model;
     const QString path = out.filePath("t.pdf");
-    ASSERT_TRUE(IncidentSheet::write(path, *QORModel::sharedInstance(), *QORModel::sharedInstance()->materials.first(), options, nullptr));
+    ASSERT_TRUE(IncidentSheet::write(path, *QORModel::sharedInstance(), *QORModel::sharedInstance()->materials().first(), options, nullptr));
     EXPECT_TRUE(pdfText(path).contains("2026-03-04T05:06:07-05:00"));
 }
 

@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Controls
 import QtTest
 import QOR
+import QorTest
 
 TestCase {
     id: test
@@ -14,6 +15,7 @@ TestCase {
     function initTestCase() {
         win = mainComponent.createObject(null)
         verify(win)
+        verify(ModelChecks.attachAll(win) >= 4, "the shell's list models are watched")
         AppDelegate.currentTab = AppDelegate.MaterialsTab
     }
     function cleanupTestCase() { win.destroy() }
@@ -21,10 +23,14 @@ TestCase {
     function list() { return win.materialList }
     function stack() { return list().StackView.view }
 
+    // Qt's item-model tester watches every list model on screen.
+    function init() { ModelChecks.attachAll(win) }
     function cleanup() {
+        ModelChecks.attachAll(win)
         list().endSearch()
         stack().pop(null, StackView.Immediate)
         AppDelegate.currentTab = AppDelegate.MaterialsTab
+        compare(ModelChecks.takeFailures(), "", "item model faults")
     }
 
     function openMaterial(unId) {

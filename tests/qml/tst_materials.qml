@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Controls
 import QtTest
 import QOR
+import QorTest
 
 TestCase {
     id: test
@@ -14,6 +15,7 @@ TestCase {
     function initTestCase() {
         win = mainComponent.createObject(null)
         verify(win)
+        verify(ModelChecks.attachAll(win) >= 4, "the shell's list models are watched")
         AppDelegate.currentTab = AppDelegate.MaterialsTab
     }
 
@@ -27,12 +29,16 @@ TestCase {
         field.textEdited()
     }
 
+    // Qt's item-model tester watches every list model on screen.
+    function init() { ModelChecks.attachAll(win) }
     function cleanup() {
+        ModelChecks.attachAll(win)
         findChild(list(), "filterPage").close()
         list().endSearch()
         AppDelegate.showAllMaterialsWithSort(0)
         var stack = list().StackView.view
         stack.pop(null, StackView.Immediate)
+        compare(ModelChecks.takeFailures(), "", "item model faults")
     }
 
     function test_searchShowsRankedRows() {

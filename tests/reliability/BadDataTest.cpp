@@ -43,15 +43,15 @@ TEST(BadText, InvalidUtf8AndNulBytesLoadAsText)
     pack.writeFile("guides.csv", QByteArrayLiteral("125^Gases \xe2\x28\xa1 Corrosive\n12\0" "7^Flammable\n"));
     pack.writeFile("wikipedia_descriptions_by_un_number.csv", QByteArrayLiteral("1005^\xff\xff\0text\n"));
     ModelFixture fixture;
-    ASSERT_EQ(model().materials.size(), 3);
-    EXPECT_EQ(model().materials.at(0)->unId, "1005");
-    EXPECT_TRUE(model().materials.at(0)->name.contains(QChar::ReplacementCharacter));
-    EXPECT_EQ(model().materials.at(1)->name, QString::fromUtf8("Nul\0Name", 8)) << "a NUL byte is kept, not an end";
-    EXPECT_EQ(model().materials.at(2)->unId, "2789");
+    ASSERT_EQ(model().materials().size(), 3);
+    EXPECT_EQ(model().materials().at(0)->unId, "1005");
+    EXPECT_TRUE(model().materials().at(0)->name.contains(QChar::ReplacementCharacter));
+    EXPECT_EQ(model().materials().at(1)->name, QString::fromUtf8("Nul\0Name", 8)) << "a NUL byte is kept, not an end";
+    EXPECT_EQ(model().materials().at(2)->unId, "2789");
 
     model().loadGuideList();
-    ASSERT_EQ(model().guides.size(), 2);
-    EXPECT_TRUE(model().dotGuideForMaterial(model().materials.at(0).get()));
+    ASSERT_EQ(model().guides().size(), 2);
+    EXPECT_TRUE(model().dotGuideForMaterial(model().materials().at(0).get()));
     model().loadWikipediaDescriptions();
     EXPECT_TRUE(model().descriptions.value("1005").endsWith("text"));
 }
@@ -63,13 +63,13 @@ TEST(BadText, OneMegabyteLinesAreOrdinaryLines)
     pack.setMaterials({ longName + "^3^127^1090^^^", "ACETONE^3^127^1091^^^", QString(1 << 20, QLatin1Char('^')) });
     pack.setGuides({ "127^" + longName, QString(1 << 20, QLatin1Char('x')) });
     ModelFixture fixture;
-    ASSERT_EQ(model().materials.size(), 3) << "a line of nothing but separators is a line of empty fields";
-    EXPECT_EQ(model().materials.at(0)->name.size(), 1 << 20);
-    EXPECT_EQ(model().materials.at(0)->name.left(2), "Aa");
+    ASSERT_EQ(model().materials().size(), 3) << "a line of nothing but separators is a line of empty fields";
+    EXPECT_EQ(model().materials().at(0)->name.size(), 1 << 20);
+    EXPECT_EQ(model().materials().at(0)->name.left(2), "Aa");
     EXPECT_EQ(model().allFilter->alphaIndex.value("aaa").size(), 1);
     model().loadGuideList();
-    ASSERT_EQ(model().guides.size(), 1);
-    EXPECT_EQ(model().guides.at(0)->name.size(), 1 << 20);
+    ASSERT_EQ(model().guides().size(), 1);
+    EXPECT_EQ(model().guides().at(0)->name.size(), 1 << 20);
 }
 
 // Each database, truncated or replaced by something else, ends start-up
@@ -113,8 +113,8 @@ TEST(BadDatabase, NullColumnsReadAsEmptyAndValidateReportsThem)
         }
     pack.sql("cfr49.db", "insert into cfr_text values ('173.1', 'n1', NULL, NULL);");
     ModelFixture fixture;
-    ASSERT_EQ(model().materials.size(), 1);
-    Material& m = *model().materials.first();
+    ASSERT_EQ(model().materials().size(), 1);
+    Material& m = *model().materials().first();
     model().isolationDistancesForMaterial(m);
     model().incidentsSummaryForMaterial(m);
     model().getNPGCasNumbersForMaterial(m);

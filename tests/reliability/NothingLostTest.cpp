@@ -146,9 +146,9 @@ TEST(NothingLostDeathTest, ViewsSavedWhenHiddenSurviveACrash)
         {
             ModelFixture fixture;
             auto* history = HistoryManager::sharedInstance();
-            history->addToHistory(QORModel::sharedInstance()->materials.at(0));
+            history->addToHistory(QORModel::sharedInstance()->materials().at(0));
             QORModel::sharedInstance()->saveData();  // hidden
-            history->addToHistory(QORModel::sharedInstance()->materials.at(1));
+            history->addToHistory(QORModel::sharedInstance()->materials().at(1));
             std::abort();
         },
         "");
@@ -204,7 +204,7 @@ TEST(ReadOnlyPack, TheDatabasesRefuseWritesAndThePackIsUntouched)
             EXPECT_NE(sqlite3_exec(db->handle(), "create table intruder(x); pragma user_version = 7;", nullptr, nullptr, &err), SQLITE_OK);
             sqlite3_free(err);
         }
-        Material& m = *model.materials.first();
+        Material& m = *model.materials().first();
         model.isolationDistancesForMaterial(m);
         model.incidentsSummaryForMaterial(m);
         model.getHmtEntriesForMaterial(m);

@@ -76,7 +76,7 @@ struct DetailTest : ::testing::Test {
         Preferences::setLanguageOverride(QString());
     }
 
-    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials, unId.toInt())); }
+    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials(), unId.toInt())); }
 };
 
 } // namespace

@@ -44,7 +44,7 @@ struct BundledPackGolden : ::testing::Test {
     }
     MaterialPtr named(const QString& name) const
     {
-        for (const auto& m : std::as_const(model->materials))
+        for (const auto& m : std::as_const(model->materials()))
             if (m->name == name)
                 return m;
         return nullptr;
@@ -61,7 +61,7 @@ TEST_F(BundledPackGolden, DetailContent)
 {
     QList<QPair<QString, MaterialPtr>> cases;
     for (int un : { 1005, 1017, 1076, 1746, 1203 })
-        cases.append({ QStringLiteral("UN%1").arg(un), firstMaterialWithUnNumber(model->materials, un) });
+        cases.append({ QStringLiteral("UN%1").arg(un), firstMaterialWithUnNumber(model->materials(), un) });
     // An explosive the guidebook's index does not list: shown from the shipping table.
     cases.append({ QStringLiteral("UN0004"), model->shippingTableMaterial(QStringLiteral("0004")) });
     // Two names of one number: the n.o.s. entry whose summary gives the
@@ -69,7 +69,7 @@ TEST_F(BundledPackGolden, DetailContent)
     cases.append({ QStringLiteral("UN1993-nos"), named(QStringLiteral("Flammable Liquid, N.O.S.")) });
     cases.append({ QStringLiteral("UN1993-diesel"), named(QStringLiteral("Diesel Fuel")) });
     // No isolation figures at all.
-    cases.append({ QStringLiteral("UN1090"), firstMaterialWithUnNumber(model->materials, 1090) });
+    cases.append({ QStringLiteral("UN1090"), firstMaterialWithUnNumber(model->materials(), 1090) });
 
     for (const auto& [name, material] : cases) {
         ASSERT_TRUE(material) << name.toStdString() << " is not in the bundled pack";

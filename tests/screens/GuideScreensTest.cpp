@@ -1,5 +1,6 @@
 // The guide page, guide list and information screens, and the page view the
 // app shows pages in.
+#include "CheckedModel.h"
 #include "FixturePack.h"
 
 #include "AppLinks.h"
@@ -15,6 +16,7 @@
 
 using namespace qor;
 using qor::test::FixturePack;
+using qor::test::CheckedModel;
 using qor::test::ModelFixture;
 
 namespace {
@@ -35,7 +37,7 @@ struct GuideScreensTest : ::testing::Test {
         settings.remove(GuideViewController::kTextFontSizeKey);
         settings.remove(GuideViewController::kRotatePromptKey);
     }
-    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials, unId.toInt())); }
+    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials(), unId.toInt())); }
 };
 
 } // namespace
@@ -120,6 +122,7 @@ TEST_F(GuideScreensTest, InfoPageLinks)
 TEST_F(GuideScreensTest, GuideListLoadsVisibleGuidesOnlyAtRest)
 {
     GuideListViewController list;
+    CheckedModel listChecks(&list);
     EXPECT_EQ(list.rowCount(), 3);
     EXPECT_EQ(list.data(list.index(2), GuideListViewController::GuideIdRole), "128");
     list.startLoadGuidesTimer(false, true, false, 0, 1);
@@ -127,6 +130,21 @@ TEST_F(GuideScreensTest, GuideListLoadsVisibleGuidesOnlyAtRest)
     list.startLoadGuidesTimer(false, false, false, 0, 1);
     EXPECT_TRUE(list.isLoadGuidesTimerActive());
     list.loadGuidesForCurrentView(5, 9);  // past the end: nothing to load, no crash
+}
+
+TEST_F(GuideScreensTest, GuideListFollowsAReloadedGuideList)
+{
+    GuideListViewController list;
+    CheckedModel listChecks(&list);
+    ASSERT_EQ(list.rowCount(), 3);
+    QSignalSpy reset(&list, &QAbstractItemModel::modelReset);
+    pack.setGuides({ "111^Mixed Load/Unidentified Cargo", "125^Gases - Corrosive" });
+    model->loadGuideList();
+    EXPECT_EQ(reset.count(), 1) << "the rows are replaced in a reset, not behind the view's back";
+    ASSERT_EQ(list.rowCount(), 2);
+    EXPECT_EQ(list.data(list.index(0), GuideListViewController::GuideIdRole), "111");
+    EXPECT_EQ(list.selectGuide(1), "125");
+    EXPECT_EQ(list.selectGuide(2), "") << "the old third row is gone";
 }
 
 TEST(WebEnginePageView, ScriptsAreAnsweredOnceWithOrWithoutAHost)

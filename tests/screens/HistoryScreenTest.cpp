@@ -1,5 +1,6 @@
 // The history screen: the three orders, the row texts, the Clear History
 // button and opening a material.
+#include "CheckedModel.h"
 #include "FixturePack.h"
 #include "../history/HistoryTestSupport.h"
 
@@ -12,6 +13,7 @@
 
 using namespace qor;
 using qor::test::FixturePack;
+using qor::test::CheckedModel;
 using qor::test::makeMaterial;
 using qor::test::ModelFixture;
 using H = MaterialHistoryListViewController;
@@ -51,6 +53,7 @@ TEST_F(HistoryScreenTest, RecentRowsSayHowLongAgo)
     manager->addToHistory(makeMaterial("1004", "Forty seven hours"), now.addSecs(-47 * 3600));
     manager->addToHistory(makeMaterial("1005", "Ten days"), now.addDays(-10));
     H h;
+    CheckedModel hChecks(&h);
     ASSERT_EQ(h.segment(), H::RecentSegment) << "Recent is chosen first";
     ASSERT_EQ(h.rowCount(), 5);
     EXPECT_EQ(verbose(h, 0), "today");
@@ -76,6 +79,7 @@ TEST_F(HistoryScreenTest, MostViewedRowsSayHowOften)
         manager->historyObjectForKey(m->unId)->properties["viewCount"] = counts[i];
     }
     H h;
+    CheckedModel hChecks(&h);
     h.setSegment(H::MostViewedSegment);
     ASSERT_EQ(h.rowCount(), 4);
     EXPECT_EQ(verbose(h, 0), "5 times");
@@ -88,6 +92,7 @@ TEST_F(HistoryScreenTest, ListsAreCappedExceptAll)
 {
     addEntries(20);
     H h;
+    CheckedModel hChecks(&h);
     EXPECT_EQ(h.rowCount(), 12);
     h.setSegment(H::MostViewedSegment);
     EXPECT_EQ(h.rowCount(), 12);
@@ -101,6 +106,7 @@ TEST_F(HistoryScreenTest, ListsAreCappedExceptAll)
 TEST_F(HistoryScreenTest, ClearButtonShowsAboveFiveEntries)
 {
     H empty;
+    CheckedModel emptyChecks(&empty);
     for (int s : { 0, 1, 2 }) {
         empty.setSegment(s);
         EXPECT_EQ(empty.rowCount(), 0);
@@ -109,6 +115,7 @@ TEST_F(HistoryScreenTest, ClearButtonShowsAboveFiveEntries)
 
     addEntries(5);
     H h;
+    CheckedModel hChecks(&h);
     EXPECT_FALSE(h.clearButtonVisible()) << "5 entries";
     addEntries(6);
     h.reload();
@@ -123,6 +130,7 @@ TEST_F(HistoryScreenTest, ClearButtonShowsAboveFiveEntries)
 TEST_F(HistoryScreenTest, ReloadsWhenTheModelFinishesLoading)
 {
     H h;
+    CheckedModel hChecks(&h);
     EXPECT_EQ(h.rowCount(), 0);
     addEntries(2);
     emit QORModel::sharedInstance()->modelLoadingStateChanged();
@@ -134,6 +142,7 @@ TEST_F(HistoryScreenTest, ChoosingARowOpensTheMaterial)
 {
     addEntries(1);
     H h;
+    CheckedModel hChecks(&h);
     QSignalSpy requested(&h, &H::materialRequested);
     h.selectRow(0);
     ASSERT_EQ(requested.count(), 1);

@@ -38,7 +38,7 @@ struct IsolationTest : ::testing::Test {
     }
     void TearDown() override { QSettings().remove(IsolationTableDelegate::kSavedUnitsKey); }
 
-    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials, unId.toInt())); }
+    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials(), unId.toInt())); }
     QList<QVariantMap> sections(IsolationTableDelegate& d)
     {
         QList<QVariantMap> out;
@@ -160,7 +160,7 @@ TEST(IsolationZones, TheMaterialsOwnZoneLeadsTableAndSummary)
              "insert into iso_distances values ('1953','Inhalation Hazard Zone D','30','100','0.1','0.1','0.3','0.2','150','500','1.0','0.6','2.7','1.7');");
     ModelFixture fixture;
     QSettings().setValue(IsolationTableDelegate::kSavedUnitsKey, int(IsolationTableDelegate::Metric));
-    const MaterialList& materials = QORModel::sharedInstance()->materials;
+    const MaterialList& materials = QORModel::sharedInstance()->materials();
 
     IsolationTableDelegate d;
     d.setMaterial(MaterialRef(materials.at(2)));

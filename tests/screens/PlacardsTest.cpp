@@ -1,5 +1,6 @@
 // The placard table: its rows and header, and that no row claims a guide the pack does not give.
 #include "FakePageView.h"
+#include "CheckedModel.h"
 #include "FixturePack.h"
 
 #include "PlacardViewController.h"
@@ -11,6 +12,7 @@
 
 using namespace qor;
 using qor::test::FixturePack;
+using qor::test::CheckedModel;
 using qor::test::ModelFixture;
 
 namespace {
@@ -19,6 +21,7 @@ struct PlacardsTest : ::testing::Test {
     qor::test::FakePageViews views;
     std::unique_ptr<ModelFixture> fixture;
     PlacardViewController placards;
+    CheckedModel placardsChecks{ &placards };
     void SetUp() override
     {
         pack.setMaterials({ "ACETONE^3^127^1090^^^" });

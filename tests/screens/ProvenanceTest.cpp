@@ -1,6 +1,7 @@
 // What the screens say about where values come from: source lines closing
 // each section, the incident note, the sample and unverified marks, and
 // sections that disappear rather than stand empty when a table has no rows.
+#include "CheckedModel.h"
 #include "FixturePack.h"
 
 #include "AboutController.h"
@@ -22,6 +23,7 @@
 
 using namespace qor;
 using qor::test::FixturePack;
+using qor::test::CheckedModel;
 using qor::test::ModelFixture;
 
 namespace {
@@ -106,7 +108,7 @@ struct ProvenanceTest : ::testing::Test {
     void load() { fixture = std::make_unique<ModelFixture>(); }
     MaterialRef material(const QString& unId)
     {
-        return MaterialRef(firstMaterialWithUnNumber(QORModel::sharedInstance()->materials, unId.toInt()));
+        return MaterialRef(firstMaterialWithUnNumber(QORModel::sharedInstance()->materials(), unId.toInt()));
     }
 };
 
@@ -175,6 +177,7 @@ TEST_F(ProvenanceTest, DetailSectionsEndInTheirSources)
     GuideViewController guide;
     EXPECT_EQ(guide.sourceLine(), "Source: ERG 2024");
     PlacardViewController placards;
+    CheckedModel placardsChecks(&placards);
     EXPECT_EQ(placards.sourceLine(), "Source: 49 CFR 172.101 (eCFR, 2026-07-28)");
 }
 
@@ -201,6 +204,7 @@ TEST_F(ProvenanceTest, IncidentListSaysItIsPartialAndEmptyCategoriesSayZero)
     load();
     QORModel* model = QORModel::sharedInstance();
     MaterialListController list;
+    CheckedModel listChecks(&list);
     EXPECT_EQ(list.incidentsNote(), "") << "alphabetical sort shows no counts";
     model->changeFilter("A", SortIncidents);
     EXPECT_EQ(list.incidentsNote(), "From a partial extract of DOT 5800.1 reports, Aug 2024 to Jul 2025\nSource: DOT 5800.1");

@@ -1,5 +1,6 @@
 // The reference screen: sections, row texts and colours, and where rows lead.
 #include "FakePageView.h"
+#include "CheckedModel.h"
 #include "FixturePack.h"
 
 #include "AppDelegate.h"
@@ -15,6 +16,7 @@
 
 using namespace qor;
 using qor::test::FixturePack;
+using qor::test::CheckedModel;
 using qor::test::ModelFixture;
 using R = ReferenceViewController;
 
@@ -46,6 +48,7 @@ struct ReferenceTest : ::testing::Test {
 TEST_F(ReferenceTest, FiveSectionsInOrder)
 {
     R ref;
+    CheckedModel refChecks(&ref);
     ASSERT_EQ(ref.rowCount(), 2 + 3 + 5 + 11 + 6);
     QStringList headers;
     for (int row = 0; row < ref.rowCount(); ++row) {
@@ -65,6 +68,7 @@ TEST_F(ReferenceTest, FiveSectionsInOrder)
 TEST_F(ReferenceTest, TableSubtitlesCountFromOneAndRowsAreTinted)
 {
     R ref;
+    CheckedModel refChecks(&ref);
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(ref.data(ref.index(2 + i), R::SubtitleRole).toString(), QString("[Table %1]").arg(i + 1));
     EXPECT_EQ(ref.data(ref.index(0), R::SubtitleRole).toString(), "");
@@ -84,22 +88,24 @@ TEST_F(ReferenceTest, TableSubtitlesCountFromOneAndRowsAreTinted)
 TEST_F(ReferenceTest, IndexAndTableRowsOpenTheMaterialList)
 {
     R ref;
+    CheckedModel refChecks(&ref);
     QORAppDelegate* app = QORAppDelegate::sharedInstance();
     QORModel* model = QORModel::sharedInstance();
     app->setCurrentTab(QORAppDelegate::ReferenceTab);
     ref.selectRow(0);
     EXPECT_EQ(app->currentTab(), QORAppDelegate::MaterialsTab);
-    EXPECT_EQ(model->currentFilter, model->allFilter);
-    EXPECT_EQ(model->currentFilter->sortType, SortUnId);
+    EXPECT_EQ(model->currentFilter(), model->allFilter.get());
+    EXPECT_EQ(model->currentFilter()->sortType, SortUnId);
     ref.selectRow(1);
-    EXPECT_EQ(model->currentFilter->sortType, SortAlpha);
+    EXPECT_EQ(model->currentFilter()->sortType, SortAlpha);
     ref.selectRow(2);
-    EXPECT_EQ(model->currentFilter, model->tihFilter);
+    EXPECT_EQ(model->currentFilter(), model->tihFilter.get());
 }
 
 TEST_F(ReferenceTest, PageRowsAskForTheirPageWithTheRightButtons)
 {
     R ref;
+    CheckedModel refChecks(&ref);
     QSignalSpy requested(&ref, &R::pageRequested);
     ref.selectRow(rowOfPage(ref, "emergency"));
     ref.selectRow(rowOfPage(ref, "howto"));
@@ -123,12 +129,14 @@ TEST_F(ReferenceTest, AFrenchRunIsFrenchFromTheFirstScreen)
     ModelFixture loading(false);
     {
         R ref;
+        CheckedModel refChecks(&ref);
         EXPECT_EQ(ref.title(), "Référence");
         EXPECT_EQ(ref.sectionHeader(R::TablesSection), "Tableaux");
         EXPECT_EQ(ref.data(ref.index(2), R::SubtitleRole).toString(), "[Tableau 1]");
         EXPECT_EQ(ref.indentification.at(0).title, "COMMENT UTILISER LE GUIDE");
 
         MaterialListController list;
+        CheckedModel listChecks(&list);
         ASSERT_TRUE(list.loading());
         ASSERT_GT(list.rowCount(), 1);
         EXPECT_EQ(list.data(list.index(1), MaterialListController::NameRole).toString(), "Accumulateurs au sodium");

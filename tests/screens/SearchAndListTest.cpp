@@ -1,4 +1,5 @@
 // The material list controller: search paths, ranking, sections and loading state.
+#include "CheckedModel.h"
 #include "FixturePack.h"
 
 #include "MaterialListController.h"
@@ -10,6 +11,7 @@
 
 using namespace qor;
 using qor::test::FixturePack;
+using qor::test::CheckedModel;
 using qor::test::ModelFixture;
 using qor::test::names;
 
@@ -46,26 +48,26 @@ TEST_F(ListControllerTest, ShortWordsUseThePrefixIndexNumbersScan)
 {
     MaterialSearch search;
     // "AC" is lower-cased and found through the prefix index "ac".
-    ASSERT_TRUE(search.search("AC", model->allFilter.get(), model->materials, SortAlpha));
+    ASSERT_TRUE(search.search("AC", model->allFilter.get(), model->materials(), SortAlpha));
     EXPECT_EQ(search.lastSearchText(), "ac");
     // The two-letter "AC" is indexed under "a", not "ac"; 1090 (weight 254) outranks 1088 (171).
     EXPECT_EQ(names(search.results()), QStringList({ "Acetone", "Acetal" }));
-    EXPECT_FALSE(search.search("ac", model->allFilter.get(), model->materials, SortAlpha)) << "same text: results stand";
+    EXPECT_FALSE(search.search("ac", model->allFilter.get(), model->materials(), SortAlpha)) << "same text: results stand";
 
     // "1" starts with a number: no prefix index; the scan matches UN ids and names.
-    ASSERT_TRUE(search.search("1", model->allFilter.get(), model->materials, SortAlpha));
+    ASSERT_TRUE(search.search("1", model->allFilter.get(), model->materials(), SortAlpha));
     EXPECT_EQ(search.results().size(), 8) << "every id but 2036 starts with 1, and one name contains 1";
     EXPECT_EQ(search.results().first()->unId, "1005") << "heaviest first";
 
     // In the UN-number sort names are not searched.
-    ASSERT_TRUE(search.search("10", model->allFilter.get(), model->materials, SortUnId));
+    ASSERT_TRUE(search.search("10", model->allFilter.get(), model->materials(), SortUnId));
     for (const auto& m : search.results())
         EXPECT_TRUE(m->unId.startsWith("10")) << m->name.toStdString();
     EXPECT_EQ(search.results().size(), 6);
-    ASSERT_TRUE(search.search("DIFLUORO", model->allFilter.get(), model->materials, SortUnId));
+    ASSERT_TRUE(search.search("DIFLUORO", model->allFilter.get(), model->materials(), SortUnId));
     EXPECT_TRUE(search.results().isEmpty());
     search.reset();
-    ASSERT_TRUE(search.search("DIFLUORO", model->allFilter.get(), model->materials, SortAlpha));
+    ASSERT_TRUE(search.search("DIFLUORO", model->allFilter.get(), model->materials(), SortAlpha));
     EXPECT_EQ(names(search.results()), QStringList({ "1,1-Difluoroethane" })) << "4+ characters keep their case";
 }
 
@@ -77,14 +79,14 @@ TEST_F(ListControllerTest, ScanStopsAfter151Matches)
     pack.setMaterials(lines);
     ModelFixture reload;
     MaterialSearch search;
-    search.search("sample", nullptr, QORModel::sharedInstance()->materials, SortAlpha);
+    search.search("sample", nullptr, QORModel::sharedInstance()->materials(), SortAlpha);
     EXPECT_EQ(search.results().size(), 151);
 }
 
 TEST_F(ListControllerTest, RankingWeightsViewedMaterialsAndNameOrder)
 {
     auto find = [&](const char* unId) {
-        for (const auto& m : model->materials)
+        for (const auto& m : model->materials())
             if (m->unId == unId)
                 return m;
         return MaterialPtr();
@@ -118,6 +120,7 @@ TEST_F(ListControllerTest, RankingWeightsViewedMaterialsAndNameOrder)
 TEST_F(ListControllerTest, ControllerDebouncesAndTitlesResults)
 {
     MaterialListController list;
+    CheckedModel listChecks(&list);
     list.setSearchText("A");
     list.setSearchText("AC");
     EXPECT_TRUE(list.searching());
@@ -138,6 +141,7 @@ TEST_F(ListControllerTest, ControllerDebouncesAndTitlesResults)
 TEST_F(ListControllerTest, SuggestionsOnlyWhenNothingIsFound)
 {
     MaterialListController list;
+    CheckedModel listChecks(&list);
     auto searchFor = [&](const QString& text) {
         list.setSearchText(text);
         list.searchNow();
@@ -146,7 +150,7 @@ TEST_F(ListControllerTest, SuggestionsOnlyWhenNothingIsFound)
     for (const char* text : { "AC", "1", "10", "DIFLUORO", "chlorine", "benz" }) {
         searchFor(QString::fromLatin1(text));
         MaterialSearch plain([](const Material&) { return false; });
-        plain.search(QString::fromLatin1(text), model->currentFilter.get(), model->materials, list.sortType());
+        plain.search(QString::fromLatin1(text), model->currentFilter(), model->materials(), list.sortType());
         ASSERT_FALSE(plain.results().isEmpty()) << text;
         EXPECT_EQ(names(list.searchResults()), names(plain.results())) << text;
         EXPECT_EQ(list.title(), QString("%1 search results").arg(plain.results().size())) << text;
@@ -169,6 +173,7 @@ TEST_F(ListControllerTest, SuggestionsOnlyWhenNothingIsFound)
 TEST_F(ListControllerTest, SectionsTitlesAndScrollTargets)
 {
     MaterialListController list;
+    CheckedModel listChecks(&list);
     EXPECT_EQ(list.sectionIndex(), QStringList({ "A", "B", "C", "X", "Z" }));
     EXPECT_EQ(list.rowForSectionKey("A"), -1) << "A scrolls to the very top";
     EXPECT_EQ(list.rowForSectionKey("C"), 6);
@@ -187,11 +192,29 @@ TEST_F(ListControllerTest, SectionsTitlesAndScrollTargets)
     EXPECT_EQ(list.data(list.index(0), MaterialListController::IncidentsTextRole).toString(), "0 Incidents");
 }
 
+TEST_F(ListControllerTest, GuideSectionTitlesFollowAReloadedGuideList)
+{
+    MaterialListController list;
+    CheckedModel listChecks(&list);
+    model->changeFilter("A", SortGuide);
+    auto sectionOf = [&](const QString& unId) {
+        for (int row = 0; row < list.rowCount(); ++row)
+            if (list.data(list.index(row), MaterialListController::UnIdRole) == unId)
+                return list.data(list.index(row), MaterialListController::SectionRole).toString();
+        return QString();
+    };
+    EXPECT_EQ(sectionOf("1017"), "Guide 124 - Gases - Toxic And/Or Corrosive - Oxidizing");
+    pack.setGuides({ "124^Gases - toxic" });
+    model->loadGuideList();
+    EXPECT_EQ(sectionOf("1017"), "Guide 124 - Gases - Toxic") << "rows built before the guides came are titled anew";
+}
+
 TEST(ListControllerLoading, PlaceholderSectionsWhileLoading)
 {
     FixturePack pack;
     ModelFixture fixture(false);
     MaterialListController list;
+    CheckedModel listChecks(&list);
     EXPECT_TRUE(list.loading());
     const int placeholder = int(QORModel::sharedInstance()->getLoadingMaterials().size());
     EXPECT_EQ(list.rowCount(), 26 * placeholder) << "26 sections of the placeholder list";

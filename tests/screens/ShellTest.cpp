@@ -1,4 +1,5 @@
 // Links into the app, the UN-number search and the filter screens.
+#include "CheckedModel.h"
 #include "FixturePack.h"
 
 #include "AppDelegate.h"
@@ -19,6 +20,7 @@
 
 using namespace qor;
 using qor::test::FixturePack;
+using qor::test::CheckedModel;
 using qor::test::ModelFixture;
 
 namespace {
@@ -79,10 +81,10 @@ TEST_F(ShellTest, TabsAndShortcuts)
     QORAppDelegate* app = QORAppDelegate::sharedInstance();
     app->showAllMaterialsWithSort(SortUnId);
     EXPECT_EQ(app->currentTab(), QORAppDelegate::MaterialsTab);
-    EXPECT_EQ(model->currentFilter->sortType, SortUnId);
+    EXPECT_EQ(model->currentFilter()->sortType, SortUnId);
     app->showFilteredListForCategory("T");
-    EXPECT_EQ(model->currentFilter, model->tihFilter);
-    EXPECT_EQ(model->currentFilter->sortType, SortUnId) << "the sort carries over";
+    EXPECT_EQ(model->currentFilter(), model->tihFilter.get());
+    EXPECT_EQ(model->currentFilter()->sortType, SortUnId) << "the sort carries over";
 
     const bool before = app->fullscreen();
     app->toggleFullscreen();
@@ -150,22 +152,23 @@ TEST_F(ShellTest, FilterScreenSwitchDoneAndCategories)
     FilterController filter;
     QSignalSpy spy(model, &QORModel::filterChanged);
     filter.setIncidentsOnly(true);
-    EXPECT_EQ(model->currentFilter->sortType, SortIncidents);
+    EXPECT_EQ(model->currentFilter()->sortType, SortIncidents);
     filter.done();
     ASSERT_EQ(spy.count(), 1);
-    EXPECT_EQ(spy.at(0).at(0).value<Filter*>(), model->currentFilter.get());
+    EXPECT_EQ(spy.at(0).at(0).value<const Filter*>(), model->currentFilter());
     EXPECT_EQ(model->getNumMaterials(), 1) << "rebuilt with incidents only";
     filter.cancel();
-    EXPECT_EQ(spy.at(1).at(0).value<Filter*>(), nullptr);
+    EXPECT_EQ(spy.at(1).at(0).value<const Filter*>(), nullptr);
 
     CategoriesController categories;
+    CheckedModel categoriesChecks(&categories);
     EXPECT_EQ(categories.data(categories.index(0), CategoriesController::TextRole).toString(), "All Materials (1 found)");
     EXPECT_TRUE(categories.data(categories.index(0), CategoriesController::CheckedRole).toBool());
     EXPECT_EQ(categories.data(categories.index(1), CategoriesController::TextRole).toString(), "Meth Lab");
-    Filter* before = model->currentFilter.get();
+    const Filter* before = model->currentFilter();
     categories.select(1);
-    EXPECT_EQ(model->currentFilter.get(), before) << "the same filter object, with another letter";
-    EXPECT_EQ(model->currentFilter->categoryAbbrev, "M");
+    EXPECT_EQ(model->currentFilter(), before) << "the same filter object, with another letter";
+    EXPECT_EQ(model->currentFilter()->categoryAbbrev, "M");
 }
 
 // The shell's save on hide and quit, before and after the history has loaded.
@@ -200,7 +203,7 @@ TEST(SaveWhenHidden, NothingReplacesTheHistoryFileUntilItHasLoaded)
     EXPECT_EQ(contents(), saved) << "a save before loading leaves the user's file alone";
 
     QORModel::sharedInstance()->loadData();
-    HistoryManager::sharedInstance()->addToHistory(QORModel::sharedInstance()->materials.first());
+    HistoryManager::sharedInstance()->addToHistory(QORModel::sharedInstance()->materials().first());
     emit window.visibilityChanged(QWindow::Hidden);
     EXPECT_EQ(plist::parse(contents())->toList().size(), 2) << "once loaded, hiding saves old and new views";
     auto acetone = std::make_shared<Material>();

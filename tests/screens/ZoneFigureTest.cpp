@@ -42,7 +42,7 @@ struct ZoneScreenTest : ::testing::Test {
         forgetChoices();
     }
     void TearDown() override { forgetChoices(); }
-    MaterialRef material(int unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials, unId)); }
+    MaterialRef material(int unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials(), unId)); }
 };
 
 } // namespace
@@ -146,7 +146,7 @@ TEST(ZoneGolden, BundledPackFigures)
             for (bool large : { false, true })
                 for (bool night : { false, true }) {
                     ZoneFigureController zone;
-                    zone.setMaterial(MaterialRef(firstMaterialWithUnNumber(QORModel::sharedInstance()->materials, un)));
+                    zone.setMaterial(MaterialRef(firstMaterialWithUnNumber(QORModel::sharedInstance()->materials(), un)));
                     zone.setLarge(large);
                     zone.setNight(night);
                     const QString name = QStringLiteral("UN%1-%2-%3.svg").arg(un).arg(large ? "large" : "small", night ? "night" : "day");

@@ -1,6 +1,8 @@
 // qor-contactsheet PACK_DIR OUT.png: draws the pack's placards, pictograms and
 // icons the way the app does (QtPdf rendering the PDF resources) onto one
 // labelled sheet, so a person can check the artwork at a glance.
+#include "model/PackSchema.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -18,6 +20,16 @@ struct Section {
 };
 
 constexpr int kCell = 150, kArt = 110, kColumns = 8, kTitle = 34, kMargin = 16;
+
+// PDF resource names without their ".pdf".
+QStringList pdfNames(const QStringList& files)
+{
+    QStringList names;
+    for (const QString& file : files)
+        if (file.endsWith(QLatin1String(".pdf")))
+            names << file.chopped(4);
+    return names;
+}
 
 QImage renderPdf(const QString& path, int box)
 {
@@ -45,14 +57,9 @@ int main(int argc, char** argv)
     const QDir pack(args.at(1));
     const QList<Section> sections = {
         { QStringLiteral("Placards (the key is the file name; \"blank\" shows placard 9)"),
-          { "1", "1.1", "1.2", "1.3", "1.4", "1.5", "1.6", "2.1", "2.2", "2.3", "3", "4.1", "4.2", "4.3", "5.1", "5.2",
-            "6.1", "6.1-tih", "6.1-toxic", "6.2", "7", "8", "9", "blank" },
-          Qt::white },
-        { QStringLiteral("GHS pictograms"),
-          { "ghs01", "ghs02", "ghs03", "ghs04", "ghs05", "ghs06", "ghs07", "ghs08", "ghs09" }, Qt::white },
-        { QStringLiteral("Sort buttons and icons"),
-          { "Sort-Alphabetically", "Sort-UnId", "Sort-Incidents", "Sort-Guide", "diamond", "newtruck", "ppe_dust_mask",
-            "search_icon", "guidecircle", "book" },
+          qor::packPlacardKeys() + QStringList{ QStringLiteral("blank") }, Qt::white },
+        { QStringLiteral("GHS pictograms"), qor::packGhsPictograms(), Qt::white },
+        { QStringLiteral("Sort buttons and icons"), pdfNames(qor::packSortButtonImages() + qor::packOtherArtwork()),
           QColor(0x2c, 0x3e, 0x50) },
     };
     int height = kMargin;

@@ -127,12 +127,8 @@ ApplicationWindow {
     }
 
     function openMaterial(material) {
-        if (!material || !material.valid)
+        if (!material || !material.valid || AppDelegate.showInDetailArea(material))
             return
-        if (AppDelegate.tablet) {
-            AppDelegate.showDetailForMaterial(material)
-            return
-        }
         AppDelegate.currentTab = AppDelegate.MaterialsTab
         tabPage(0)
         materialsStack.push(Qt.resolvedUrl("MaterialDetailPage.qml").toString(), { material: material })
