@@ -1,6 +1,7 @@
 // qor-cli import-erg: reads the guidebook's yellow index and Tables 1 to 3
 // from its PDF pages and writes the materials file and the tables.
 #include "Cli.h"
+#include "OutputFolder.h"
 
 #include "import/ErgImport.h"
 
@@ -8,9 +9,6 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QSaveFile>
-#include <memory>
-#include <vector>
 
 namespace qor::cli {
 
@@ -18,58 +16,26 @@ namespace {
 
 using namespace qor::import;
 
-// Every output is written in full or none is: all files are prepared
-// before the first one replaces anything.
-bool writeAll(const QString& dir, const QList<QPair<QString, QByteArray>>& files, QString* error)
-{
-    if (!QDir().mkpath(dir)) {
-        *error = QStringLiteral("%1: cannot create the folder").arg(dir);
-        return false;
-    }
-    std::vector<std::unique_ptr<QSaveFile>> pending;
-    for (const auto& [name, bytes] : files) {
-        auto file = std::make_unique<QSaveFile>(QDir(dir).filePath(name));
-        if (!file->open(QIODevice::WriteOnly) || file->write(bytes) != bytes.size()) {
-            *error = QStringLiteral("%1: %2").arg(file->fileName(), file->errorString());
-            return false;
-        }
-        pending.push_back(std::move(file));
-    }
-    for (auto& file : pending)
-        if (!file->commit()) {
-            *error = QStringLiteral("%1: %2").arg(file->fileName(), file->errorString());
-            return false;
-        }
-    return true;
-}
-
 int importErgCommand(Context& ctx, QStringList args)
 {
     QString output;
-    bool present = false;
-    if (!takeOption(args, QStringLiteral("--output"), &output, &present) || (present && output.isEmpty()))
-        return ctx.usage(QStringLiteral("--output needs a folder"));
-    if (!present)
-        return ctx.usage(QStringLiteral("import-erg needs --output DIR"));
+    if (!takeOutputFolder(ctx, args, &output, QStringLiteral("a folder"), QStringLiteral("import-erg")))
+        return UsageError;
     if (args.isEmpty())
         return ctx.usage(QStringLiteral("import-erg needs at least one guidebook PDF file"));
     for (const QString& a : std::as_const(args))
         if (a.startsWith(QLatin1String("--")))
             return ctx.usage(QStringLiteral("unknown option '%1'").arg(a));
 
-    auto failed = [&](const QString& why) {
-        ctx.err << "qor-cli: " << why << "\n" << "qor-cli: nothing written" << Qt::endl;
-        return NothingFound;
-    };
     QString error;
     const auto tables = ErgImport::read(args, &error);
     if (!tables)
-        return failed(error);
+        return nothingWritten(ctx, error);
     if (!tables->unusedFiles.isEmpty())
-        return failed(QStringLiteral("%1: no yellow index and no Table 1, 2 or 3 found").arg(tables->unusedFiles.join(QStringLiteral(", "))));
+        return nothingWritten(ctx, QStringLiteral("%1: no yellow index and no Table 1, 2 or 3 found").arg(tables->unusedFiles.join(QStringLiteral(", "))));
     const QStringList mismatches = ErgImport::highlightMismatches(*tables);
     if (!mismatches.isEmpty())
-        return failed(QStringLiteral("the index highlight and Table 1 disagree: %1").arg(mismatches.mid(0, 5).join(QStringLiteral("; "))));
+        return nothingWritten(ctx, QStringLiteral("the index highlight and Table 1 disagree: %1").arg(mismatches.mid(0, 5).join(QStringLiteral("; "))));
 
     const QList<QPair<QString, QByteArray>> files = {
         { QStringLiteral("chemicals_2024.csv"), (materialsLines(*tables).join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8() },
@@ -79,8 +45,8 @@ int importErgCommand(Context& ctx, QStringList args)
         { QStringLiteral("iso_distances.sql"), isoDistancesSql(*tables).toUtf8() },
         { QStringLiteral("large_spill_distances.sql"), largeSpillSql(*tables).toUtf8() },
     };
-    if (!writeAll(output, files, &error))
-        return failed(error);
+    if (!writeAllOrNothing(output, files, &error))
+        return nothingWritten(ctx, error);
 
     int highlighted = 0, water = 0;
     for (const ErgIndexRow& r : tables->index)

@@ -1,6 +1,7 @@
 // qor-cli import-ecfr / import-npg: official documents into a data pack's
 // databases and regulation pages.
 #include "Cli.h"
+#include "OutputFolder.h"
 
 #include "import/EcfrImport.h"
 #include "import/NpgImport.h"
@@ -55,19 +56,16 @@ bool writeProvisionPages(const QString& dir, const QList<import::SpecialProvisio
     QHash<QString, QString> bodies;
     for (const import::SpecialProvision& p : provisions)
         bodies[specialProvisionPage(p.code)] += p.anchoredHtml();
+    QList<QPair<QString, QByteArray>> files;
     for (const QString& page : specialProvisionPages()) {
         const QString html = QStringLiteral("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n"
                                             "<meta name = \"viewport\" content = \"width = device-width\">\n"
                                             "<title>Special Provisions</title>\n<link rel=\"stylesheet\" type=\"text/css\" href=\"base.css\">\n"
                                             "</head>\n<body style=\"background-color: #ffb045\">\n<h1>Special Provisions</h1>\n%1</body>\n</html>\n")
                                  .arg(bodies.value(page, QStringLiteral("<p>No provisions of this group are in § 172.102 as imported.</p>\n")));
-        QFile file(QDir(dir).filePath(page + QStringLiteral(".html")));
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(html.toUtf8()) < 0) {
-            *error = QStringLiteral("%1: %2").arg(file.fileName(), file.errorString());
-            return false;
-        }
+        files.append({ page + QStringLiteral(".html"), html.toUtf8() });
     }
-    return true;
+    return writeAllOrNothing(dir, files, error);
 }
 
 // A pack with a manifest keeps it true to its files.
@@ -81,11 +79,8 @@ bool resealManifest(const QString& dir, QString* error)
 
 bool takeOutput(Context& ctx, QStringList& args, QString* output, const QString& command)
 {
-    *output = QStringLiteral(".");
-    if (!takeOption(args, QStringLiteral("--output"), output)) {
-        ctx.usage(QStringLiteral("--output needs a pack folder"));
+    if (!takeOutputFolder(ctx, args, output, QStringLiteral("a pack folder"), command, QStringLiteral(".")))
         return false;
-    }
     for (const QString& a : std::as_const(args))
         if (a.startsWith(QLatin1String("--"))) {
             ctx.usage(QStringLiteral("unknown option '%1'").arg(a));
@@ -100,12 +95,6 @@ bool takeOutput(Context& ctx, QStringList& args, QString* output, const QString&
         return false;
     }
     return true;
-}
-
-int failed(Context& ctx, const QString& error)
-{
-    ctx.err << "qor-cli: " << error << "\n" << "qor-cli: nothing written" << Qt::endl;
-    return NothingFound;
 }
 
 void report(Context& ctx, const QString& output, const import::ImportTables& tables, QJsonObject extra)
@@ -139,7 +128,7 @@ int importEcfrCommand(Context& ctx, QStringList args)
         QString error;
         const auto section = import::readEcfrSection(path, &error);
         if (!section)
-            return failed(ctx, error);
+            return nothingWritten(ctx, error);
         data.add(*section);
         sections << section->number;
     }
@@ -148,7 +137,7 @@ int importEcfrCommand(Context& ctx, QStringList args)
     if (!writeToPack(output, tables, &error)
         || (!data.provisions().isEmpty() && !writeProvisionPages(output, data.provisions(), &error))
         || !resealManifest(output, &error))
-        return failed(ctx, error);
+        return nothingWritten(ctx, error);
     report(ctx, output, tables,
            { { QStringLiteral("sections"), sections.join(QStringLiteral(", ")) },
              { QStringLiteral("specialProvisions"), int(data.provisions().size()) } });
@@ -165,10 +154,10 @@ int importNpgCommand(Context& ctx, QStringList args)
     QString error;
     const auto guide = import::readNpg(args.first(), &error);
     if (!guide)
-        return failed(ctx, error);
+        return nothingWritten(ctx, error);
     const import::ImportTables tables = guide->tables();
     if (!writeToPack(output, tables, &error) || !resealManifest(output, &error))
-        return failed(ctx, error);
+        return nothingWritten(ctx, error);
     report(ctx, output, tables,
            { { QStringLiteral("chemicals"), int(guide->chemicals.size()) }, { QStringLiteral("emptyPages"), guide->emptyPages } });
     return Found;

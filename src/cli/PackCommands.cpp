@@ -2,6 +2,7 @@
 // describing data packs.
 #include "Cli.h"
 #include "IncidentImport.h"
+#include "OutputFolder.h"
 #include "PackValidator.h"
 
 #include "model/PackManifest.h"
@@ -75,10 +76,8 @@ int importIncidentsCommand(Context& ctx, QStringList args)
 
     QString error;
     const auto report = incidents::readIncidentReports(args, months, &error);
-    if (!report || !incidents::writeIncidentDatabase(output, report->incidents, &error)) {
-        ctx.err << "qor-cli: " << error << "\n" << "qor-cli: nothing written" << Qt::endl;
-        return NothingFound;
-    }
+    if (!report || !incidents::writeIncidentDatabase(output, report->incidents, &error))
+        return nothingWritten(ctx, error);
     QMap<QString, int> perUnId;
     for (const auto& inc : report->incidents)
         ++perUnId[inc.unId];

@@ -1,5 +1,7 @@
 #include "ErgImport.h"
 
+#include "EcfrImport.h"
+
 #include "PdfText.h"
 
 #include <QColor>
@@ -666,7 +668,7 @@ QStringList ErgImport::highlightMismatches(const ErgTables& tables)
     return out + missing;
 }
 
-QStringList materialsLines(const ErgTables& tables)
+QStringList materialsLines(const ErgTables& tables, const ShippingData* shipping)
 {
     QSet<QString> tih, water, table2Ids;
     for (const ErgTable1Row& r : tables.table1) {
@@ -694,7 +696,8 @@ QStringList materialsLines(const ErgTables& tables)
             mark = gases.isEmpty() ? QStringLiteral("X") : gases.join(QStringLiteral(", "));
         }
         const QString un = r.id == kDash ? QString() : r.id;
-        lines << QStringList{ r.name, QString(), r.guide, un, mark, table2Ids.contains(r.id) ? QStringLiteral("W") : QString(), QString() }
+        const QString placard = shipping ? shipping->placardKey(un, !mark.isEmpty()) : QString();
+        lines << QStringList{ r.name, placard, r.guide, un, mark, table2Ids.contains(r.id) ? QStringLiteral("W") : QString(), QString() }
                      .join(QLatin1Char('^'));
     }
     return lines;

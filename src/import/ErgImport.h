@@ -11,6 +11,8 @@
 
 namespace qor::import {
 
+class ShippingData;
+
 class PdfText;
 
 struct ErgIndexRow {
@@ -77,10 +79,12 @@ public:
     static const QString kLand;
 };
 
-// Lines of the materials file: name^placard^guide^UN^TIH^W^ (placard left
-// empty; TIH "X" or the gases Table 2 names for highlighted rows; "W" where
-// Table 2 lists the ID). The explosives rows carry no UN number.
-QStringList materialsLines(const ErgTables& tables);
+// Lines of the materials file: name^placard^guide^UN^TIH^W^ (TIH "X" or the
+// gases Table 2 names for highlighted rows; "W" where Table 2 lists the ID).
+// The placard key is the shipping table's for the UN number and TIH mark,
+// empty without shipping data or where the table has none. The explosives
+// rows carry no UN number.
+QStringList materialsLines(const ErgTables& tables, const ShippingData* shipping = nullptr);
 // One guidebook-order CSV per table, with a header line.
 QString table1Csv(const ErgTables& tables);
 QString table2Csv(const ErgTables& tables);

@@ -218,24 +218,6 @@ bool PackBuilder::hashSources()
     return true;
 }
 
-QString PackBuilder::withPlacardKeys(const QString& materials) const
-{
-    // Field 1 (the placard key) follows the shipping table's class wherever
-    // the table lists the ID; field 4 is the inhalation-hazard mark.
-    QStringList lines = materials.split(QLatin1Char('\n'));
-    for (QString& line : lines) {
-        QStringList f = line.split(QLatin1Char('^'));
-        if (f.size() < 7)
-            continue;
-        const QString key = m_shipping.placardKey(f.at(3), !f.at(4).isEmpty());
-        if (key.isEmpty() || key == f.at(1))
-            continue;
-        f[1] = key;
-        line = f.join(QLatin1Char('^'));
-    }
-    return lines.join(QLatin1Char('\n'));
-}
-
 bool PackBuilder::copyPlainFiles()
 {
     // Everything outside src/ is a resource as it stands.
@@ -275,8 +257,8 @@ bool PackBuilder::importGuidebook()
     m_isoDistancesSql = import::isoDistancesSql(*tables);
     m_largeSpillSql = import::largeSpillSql(*tables);
     // The placard key follows the shipping table's class for the ID.
-    const QString materials = import::materialsLines(*tables).join(QLatin1Char('\n')) + QLatin1Char('\n');
-    return writeBytes(QStringLiteral("chemicals_2024.csv"), withPlacardKeys(materials).toUtf8());
+    const QString materials = import::materialsLines(*tables, &m_shipping).join(QLatin1Char('\n')) + QLatin1Char('\n');
+    return writeBytes(QStringLiteral("chemicals_2024.csv"), materials.toUtf8());
 }
 
 bool PackBuilder::runSqlFile(sqlite3* db, const QString& path)

@@ -31,7 +31,6 @@ private:
     bool readPackInfo();
     bool importGuidebook();
     bool readOfficialSources();
-    QString withPlacardKeys(const QString& materials) const;
     bool copyPlainFiles();
     bool hashSources();
     bool buildDatabases();
