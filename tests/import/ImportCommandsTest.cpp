@@ -1,5 +1,5 @@
 // qor-cli import-ecfr / import-npg / material on the official files, in-process.
-#include "Cli.h"
+#include "CliRun.h"
 
 #include "model/QORModel.h"
 
@@ -19,22 +19,8 @@ namespace {
 
 const QString kOfficial = QStringLiteral(QOR_OFFICIAL_DIR);
 
-struct CliRun {
-    int code = -1;
-    QString out, err;
-};
-
-CliRun runCli(const QStringList& args)
-{
-    delete QORModel::sharedInstance(false);
-    CliRun r;
-    QTextStream o(&r.out), e(&r.err);
-    r.code = cli::run(args, o, e);
-    o.flush();
-    e.flush();
-    delete QORModel::sharedInstance(false);
-    return r;
-}
+using CliRun = test::CliResult;
+using test::runCli;
 
 QStringList column(const QString& db, const QString& sql)
 {
