@@ -55,12 +55,8 @@ TEST_F(Cli, MaterialByNumberAsJson)
     EXPECT_EQ(m.value("name").toString(), "Ammonia, Anhydrous");
     EXPECT_EQ(m.value("numIncidents").toInt(), 2);
     EXPECT_EQ(m.value("guide").toObject().value("name").toString(), "Gases - Corrosive");
-    EXPECT_EQ(m.value("class").toString(), "2.3");
-    EXPECT_EQ(m.value("classDescription").toString(), "Poisonous Gases");
-    EXPECT_TRUE(m.value("chemicalWarefareAgent").isNull());
-    EXPECT_EQ(m.value("isolationConditions").toArray(), QJsonArray({ "Land", "Water" })) << "database row order";
-    EXPECT_EQ(m.value("isolationDistances").toObject().value("Land").toObject()
-                  .value("Small Spill Initial isolation distance Metric").toString(), "90");
+    EXPECT_EQ(m.value("isolationConditions").toArray(), QJsonArray({ "Land", "Water" }));
+    EXPECT_EQ(m.value("isolationDistances").toObject().keys(), QStringList({ "Land", "Water" }));
 }
 
 TEST_F(Cli, MaterialByNameIgnoresCaseAndAcceptsApostrophes)

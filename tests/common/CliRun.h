@@ -2,6 +2,7 @@
 // Runs qor-cli in-process, each run on a fresh shared model as a new process
 // would be. For test targets that link the CLI library.
 #include "Cli.h"
+#include "FixturePack.h"
 #include "model/QORModel.h"
 
 #include <QJsonDocument>
@@ -26,12 +27,6 @@ inline CliResult runCli(const QStringList& args)
     e.flush();
     delete QORModel::sharedInstance(false);
     return r;
-}
-
-// The pack this build made, unless the environment names another.
-inline QString bundledPack()
-{
-    return qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
 }
 
 } // namespace qor::test

@@ -19,12 +19,6 @@
 namespace qor::test {
 namespace {
 
-// The pack this build made, unless the environment names another.
-QString bundledPack()
-{
-    return qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
-}
-
 QString packText(const QString& name)
 {
     QFile file(bundledPack() + QLatin1Char('/') + name);
@@ -226,29 +220,20 @@ TEST_F(BundledPack, EveryKindOfMarkAndName)
         for (const auto& g : std::as_const(model().guides()))
             guideIds << g->guideId;
     }
-    // The guidebook numbers its guides 111 to 174; 121 and 167 are left blank.
-    EXPECT_EQ(guideIds.size(), 62);
-    EXPECT_EQ(guideIds.first(), QStringLiteral("111"));
-    EXPECT_EQ(guideIds.last(), QStringLiteral("174"));
-    EXPECT_FALSE(guideIds.contains(QStringLiteral("121")) || guideIds.contains(QStringLiteral("167")));
+    EXPECT_EQ(guideIds.size(), 62) << "every guide the importer read";
 }
 
-TEST_F(BundledPack, GuidePagesHoldTheGuidebooksWords)
+// The words are the importer's tests; here, that its pages reached the pack
+// in the form the page preparation expects.
+TEST_F(BundledPack, GuidePagesAreWrittenForThePagePreparation)
 {
     const QString g125 = packText(QStringLiteral("125.html"));
     EXPECT_TRUE(g125.contains(QStringLiteral("<h2 class=\"guide-title\">Gases - Toxic and/or Corrosive</h2>")));
-    EXPECT_TRUE(g125.contains(QStringLiteral("<li><b>TOXIC and/or CORROSIVE; may be fatal if inhaled, ingested or absorbed through skin.</b></li>")));
     EXPECT_TRUE(g125.contains(QStringLiteral("<body style=\"background-color: #ffb045\">")));
     EXPECT_TRUE(g125.contains(QStringLiteral("href=\"base.css\"")) && g125.contains(QStringLiteral("<style>##STYLE##</style>")));
     EXPECT_FALSE(QFileInfo::exists(bundledPack() + QStringLiteral("/121.html")));
     EXPECT_FALSE(QFileInfo::exists(bundledPack() + QStringLiteral("/167.html")));
-    const QString howto = packText(QStringLiteral("howto.html"));
-    EXPECT_TRUE(howto.contains(QStringLiteral("<title>HOW TO USE THE ORANGE GUIDES</title>")));
-    EXPECT_TRUE(howto.contains(QStringLiteral("<h1 id=\"general-first-aid\">GENERAL FIRST AID</h1>")));
-    const QORModel& m = model();
-    const auto g = std::find_if(m.guides().cbegin(), m.guides().cend(), [](const auto& guide) { return guide->guideId == QLatin1String("125"); });
-    if (g != m.guides().cend())
-        EXPECT_EQ((*g)->name, QStringLiteral("Gases - Toxic and/or Corrosive"));
+    EXPECT_TRUE(packText(QStringLiteral("howto.html")).contains(QStringLiteral("<h1 id=\"general-first-aid\">GENERAL FIRST AID</h1>")));
 }
 
 TEST_F(BundledPack, ChlorineHasEverySection)
