@@ -1,6 +1,6 @@
 // What `qor-cli --json material` printed before the detail rows came under
 // "content": dispatch scripts read these keys, so each stays with its shape.
-#include "Cli.h"
+#include "CliRun.h"
 #include "FixturePack.h"
 
 #include "model/QORModel.h"
@@ -18,15 +18,10 @@ namespace {
 
 QJsonArray materialJson(const QString& arg)
 {
-    delete QORModel::sharedInstance(false);
-    QString out, err;
-    QTextStream o(&out), e(&err);
-    const QString pack = qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
-    EXPECT_EQ(cli::run({ QStringLiteral("--resources"), pack, QStringLiteral("--json"), QStringLiteral("material"), arg }, o, e), 0) << err.toStdString();
-    o.flush();
-    delete QORModel::sharedInstance(false);
+    const test::CliResult r = test::runCli({ "--resources", test::bundledPack(), "--json", "material", arg });
+    EXPECT_EQ(r.code, 0) << r.err.toStdString();
     Resources::setOverride(QString());
-    return QJsonDocument::fromJson(out.toUtf8()).array();
+    return r.json().array();
 }
 
 QSet<QString> keySet(const QJsonObject& o)

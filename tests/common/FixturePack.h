@@ -34,6 +34,12 @@ inline QStringList names(const MaterialList& list)
     return out;
 }
 
+// The pack this build made, unless the environment names another.
+inline QString bundledPack()
+{
+    return qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
+}
+
 class FixturePack {
 public:
     FixturePack();

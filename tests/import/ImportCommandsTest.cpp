@@ -1,5 +1,5 @@
 // qor-cli import-ecfr / import-npg / material on the official files, in-process.
-#include "Cli.h"
+#include "CliRun.h"
 
 #include "model/QORModel.h"
 
@@ -19,22 +19,8 @@ namespace {
 
 const QString kOfficial = QStringLiteral(QOR_OFFICIAL_DIR);
 
-struct CliRun {
-    int code = -1;
-    QString out, err;
-};
-
-CliRun runCli(const QStringList& args)
-{
-    delete QORModel::sharedInstance(false);
-    CliRun r;
-    QTextStream o(&r.out), e(&r.err);
-    r.code = cli::run(args, o, e);
-    o.flush();
-    e.flush();
-    delete QORModel::sharedInstance(false);
-    return r;
-}
+using CliRun = test::CliResult;
+using test::runCli;
 
 QStringList column(const QString& db, const QString& sql)
 {
@@ -116,30 +102,21 @@ TEST(ImportCommands, BadFilesWriteNothing)
     EXPECT_EQ(runCli({ "import-npg", "a", "b" }).code, 2);
 }
 
+// The rows' values are the importer's tests; here, that they reached the pack.
 TEST(ImportCommands, BundledPackShowsTheShippingTable)
 {
-    const QString pack = qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
-    const CliRun r = runCli({ "--resources", pack, "--json", "material", "1089" });
+    const CliRun r = runCli({ "--resources", test::bundledPack(), "--json", "material", "1089" });
     ASSERT_EQ(r.code, 0) << r.err.toStdString();
-    const QJsonObject m = QJsonDocument::fromJson(r.out.toUtf8()).array().first().toObject();
-    EXPECT_EQ(m.value("class").toString(), QStringLiteral("3"));
-    const QJsonArray entries = m.value("hmtEntries").toArray();
-    ASSERT_EQ(entries.size(), 1);
-    const QJsonObject e = entries.first().toObject();
-    EXPECT_EQ(e.value("packingGroup").toString(), QStringLiteral("I Great Danger"));
-    EXPECT_EQ(e.value("nonBulk").toString(), QStringLiteral("201"));
-    EXPECT_EQ(e.value("bulk").toString(), QStringLiteral("243"));
-    EXPECT_EQ(m.value("hmtAttributes").toObject().value("bulk").toString(), QStringLiteral("243"));
+    EXPECT_EQ(r.json().array().first().toObject().value("hmtEntries").toArray().size(), 1);
     // Tapping the packaging section opens a page that says how to get its text.
-    const CliRun cfr = runCli({ "--resources", pack, "cfr", "201" });
+    const CliRun cfr = runCli({ "--resources", test::bundledPack(), "cfr", "201" });
     EXPECT_EQ(cfr.code, 1);
     EXPECT_TRUE(cfr.out.contains(QStringLiteral("49 CFR § 173.201 is not in this data pack")));
 }
 
 TEST(ImportCommands, BundledMaterialsTakeTheirPlacardFromTheTable)
 {
-    const QString pack = qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES));
-    QFile file(pack + QStringLiteral("/chemicals_2024.csv"));
+    QFile file(test::bundledPack() + QStringLiteral("/chemicals_2024.csv"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     QHash<QString, QSet<QString>> keys;  // UN number -> placard keys of its lines
     for (const QString& line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'))) {

@@ -1,5 +1,5 @@
 // qor-cli material (lookup keys and their order), cfr and provision, in-process.
-#include "Cli.h"
+#include "CliRun.h"
 #include "QueriesFixture.h"
 
 #include <QJsonArray>
@@ -22,14 +22,9 @@ TEST_F(QueryCommands, MaterialCfrAndProvision)
     pack.sql("cfr49.db", "insert into cfr_text values ('173.304','n304','<p>304</p>','');");
     QString out;
     auto run = [&](const QStringList& args) {
-        delete QORModel::sharedInstance(false);
-        out.clear();
-        QString err;
-        QTextStream o(&out), e(&err);
-        const int code = cli::run(args, o, e);
-        o.flush();
-        delete QORModel::sharedInstance(false);
-        return code;
+        const test::CliResult r = test::runCli(args);
+        out = r.out;
+        return r.code;
     };
 
     ASSERT_EQ(run({ "--json", "material", "1005" }), 0);

@@ -29,7 +29,7 @@ struct BundledPackGolden : ::testing::Test {
     QORModel* model = nullptr;
     void SetUp() override
     {
-        Resources::setOverride(qEnvironmentVariable("QOR_PACK", QStringLiteral(QOR_DEFAULT_RESOURCES)));
+        Resources::setOverride(qor::test::bundledPack());
         Preferences::setLanguageOverride(QStringLiteral("en"));
         Device::setTablet(false);
         fixture = std::make_unique<ModelFixture>();

