@@ -86,11 +86,16 @@ TEST_F(HistoryCli, ClearEmptiesTheFileAndBadRequestsChangeNothing)
     EXPECT_TRUE(recent.isEmpty());
 }
 
-// Under a number with two names: one view per command, of the first name
-// shown unless --name picks one of those shown.
-TEST_F(HistoryCli, AViewIsOneViewOfOneMaterialUnderTheNumber)
+// Under a number with two names: the history keeps one entry per number, so
+// each case starts from an empty history.
+namespace {
+const QStringList kTwoUnderOneNumber{ "AMMONIA SOLUTION^8^154^1005^^^", "AMMONIA, ANHYDROUS^2.3^125^1005^X^^",
+                                      "CHLORINE^2.3^124^1017^X^^" };
+}
+
+TEST_F(HistoryCli, AViewIsOneViewOfTheFirstMaterialShown)
 {
-    pack.setMaterials({ "AMMONIA SOLUTION^8^154^1005^^^", "AMMONIA, ANHYDROUS^2.3^125^1005^X^^", "CHLORINE^2.3^124^1017^X^^" });
+    pack.setMaterials(kTwoUnderOneNumber);
     QJsonArray shown;
     ASSERT_EQ(run({ "--json", "history", "view", "1005" }, &shown), 0);
     ASSERT_EQ(shown.size(), 1);
@@ -98,7 +103,12 @@ TEST_F(HistoryCli, AViewIsOneViewOfOneMaterialUnderTheNumber)
     EXPECT_EQ(shown.at(0).toObject().value("viewCount").toInt(), 1) << "one view per command, not one per material";
     ASSERT_EQ(run({ "--json", "history", "view", "1005" }, &shown), 0);
     EXPECT_EQ(shown.at(0).toObject().value("viewCount").toInt(), 2);
+}
 
+TEST_F(HistoryCli, AViewCanNameWhichMaterialUnderTheNumber)
+{
+    pack.setMaterials(kTwoUnderOneNumber);
+    QJsonArray shown;
     ASSERT_EQ(run({ "--json", "history", "view", "1005", "--name", "ammonia, anhydrous" }, &shown), 0);
     ASSERT_EQ(shown.size(), 1);
     EXPECT_EQ(shown.at(0).toObject().value("name").toString(), "Ammonia, Anhydrous");
