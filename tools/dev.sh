@@ -130,7 +130,7 @@ MSG
     ctest --test-dir "$BUILD_DIR" --output-on-failure -j"$(nproc)"
     build_sanitized
     run_sanitized_tests
-    run_fuzzers "${QOR_FUZZ_SECONDS:-15}"
+    run_fuzzers "${QOR_FUZZ_SECONDS:-10}"
     ;;
   sanitize)
     install_missing
