@@ -33,6 +33,19 @@ TestCase {
         compare(ModelChecks.takeFailures(), "", "item model faults")
     }
 
+    // An info page chosen on a wide window shows in the detail area, is made
+    // from its file when asked for, and gives way to the next page or material.
+    function test_infoPagesShowInTheDetailArea() {
+        Navigation.openInfoPage("howto", "HOW TO USE THE GUIDEBOOK", false, true)
+        tryVerify(function() { var p = findChild(win.contentItem, "infoPage"); return p && p.page === "howto" })
+        Navigation.openInfoPage("Isolation_Distances", "Isolation Distances", true, true)
+        tryVerify(function() { var p = findChild(win.contentItem, "infoPage"); return p && p.page === "Isolation_Distances" })
+        compare(findChild(win.contentItem, "infoPage").textSizeButton, true)
+        AppDelegate.clearDetail()
+        win.detailInfo = null
+        tryVerify(function() { return findChild(win.contentItem, "infoPage") === null })
+    }
+
     function materialWithId(unId) {
         var controller = win.materialList.controller
         var field = win.materialList.searchField
