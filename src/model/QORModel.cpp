@@ -8,6 +8,7 @@
 #include <QSet>
 #include <QStringDecoder>
 #include <algorithm>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <cstdlib>
@@ -182,10 +183,6 @@ void forEachPart(QStringView text, char16_t separator, Each each)
     }
 }
 
-struct QStringHasher {
-    size_t operator()(const QString& s) const noexcept { return qHash(s); }
-};
-
 // The prefix index's keys of one name: 0..3 leading characters of its lower
 // case, short names using one character fewer than they have. Lower case can
 // only lengthen a text, so the first three characters of a long name's lower
@@ -342,9 +339,11 @@ void QORModel::loadMaterials()
     // Neighbouring names mostly share their keys, so each level remembers its
     // last list; lists are gathered where adding keys moves no list, then
     // handed to the index.
-    std::unordered_map<QString, MaterialList, QStringHasher> lists;
+    // Keys of up to three characters fit std::u16string's own buffer: no
+    // allocation per key, and comparing one is comparing a few characters.
+    std::unordered_map<std::u16string, MaterialList> lists;
     struct Level {
-        QString key;
+        std::u16string_view key;
         MaterialList* list = nullptr;
     } levels[4];
     for (qsizetype i = firstNew; i < m_materials.size(); ++i) {
@@ -362,11 +361,12 @@ void QORModel::loadMaterials()
         const QStringView lower = isAscii ? QStringView(ascii, take) : QStringView(other);
         for (int k = 0; k <= 3; ++k) {
             const qsizetype len = std::max<qsizetype>(lower.size() <= k ? lower.size() - 1 : k, 0);
-            const QStringView key = QStringView(lower).left(len);
+            const std::u16string_view key(reinterpret_cast<const char16_t*>(lower.utf16()), size_t(len));
             Level& level = levels[k];
             if (!level.list || level.key != key) {
-                level.key = key.toString();
-                level.list = &lists[level.key];
+                auto it = lists.try_emplace(std::u16string(key)).first;
+                level.key = it->first;  // the map's node keeps the text in place
+                level.list = &it->second;
             }
             level.list->append(m);
         }
@@ -374,7 +374,7 @@ void QORModel::loadMaterials()
     all.alphaIndex.clear();
     all.alphaIndex.reserve(qsizetype(lists.size()));
     for (auto& [key, list] : lists)
-        all.alphaIndex.insert(key, std::move(list));
+        all.alphaIndex.insert(QString::fromUtf16(key.data(), qsizetype(key.size())), std::move(list));
 }
 
 const QHash<QString, int>& QORModel::getMaterialsWithIncidents()
