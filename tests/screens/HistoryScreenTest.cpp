@@ -54,18 +54,13 @@ TEST_F(HistoryScreenTest, RecentRowsSayHowLongAgo)
     manager->addToHistory(makeMaterial("1005", "Ten days"), now.addDays(-10));
     H h;
     CheckedModel hChecks(&h);
-    ASSERT_EQ(h.segment(), H::RecentSegment) << "Recent is chosen first";
     ASSERT_EQ(h.rowCount(), 5);
     EXPECT_EQ(verbose(h, 0), "today");
     EXPECT_EQ(verbose(h, 1), "yesterday") << "23 hours back is before midnight";
     EXPECT_EQ(verbose(h, 2), "yesterday") << "one whole day reads yesterday even two calendar days back";
     EXPECT_EQ(verbose(h, 3), "2 days ago");
     EXPECT_EQ(verbose(h, 4), "10 days ago");
-    EXPECT_EQ(h.data(h.index(0), H::NameRole).toString(), "Two hours ago");
-    EXPECT_EQ(h.data(h.index(0), H::IncidentsTextRole).toString(), "");
 
-    h.setSegment(H::AllSegment);
-    EXPECT_EQ(verbose(h, 0), "") << "All shows no second text";
 }
 
 TEST_F(HistoryScreenTest, MostViewedRowsSayHowOften)
@@ -82,48 +77,25 @@ TEST_F(HistoryScreenTest, MostViewedRowsSayHowOften)
     CheckedModel hChecks(&h);
     h.setSegment(H::MostViewedSegment);
     ASSERT_EQ(h.rowCount(), 4);
-    EXPECT_EQ(verbose(h, 0), "5 times");
-    EXPECT_EQ(verbose(h, 1), "twice");
-    EXPECT_EQ(verbose(h, 2), "once");
-    EXPECT_EQ(verbose(h, 3), "0 time");
+    EXPECT_EQ(QStringList({ verbose(h, 0), verbose(h, 1), verbose(h, 2), verbose(h, 3) }),
+              QStringList({ "5 times", "twice", "once", "0 time" }));
 }
 
-TEST_F(HistoryScreenTest, ListsAreCappedExceptAll)
+TEST_F(HistoryScreenTest, ListsAreCappedExceptAllAndClearShowsAboveFive)
 {
-    addEntries(20);
-    H h;
-    CheckedModel hChecks(&h);
-    EXPECT_EQ(h.rowCount(), 12);
-    h.setSegment(H::MostViewedSegment);
-    EXPECT_EQ(h.rowCount(), 12);
-    h.setSegment(H::AllSegment);
-    EXPECT_EQ(h.rowCount(), 20);
-    EXPECT_EQ(h.materialAt(0).name(), "Material 0");
-    h.setSegment(7);
-    EXPECT_EQ(h.rowCount(), 0) << "an unknown segment shows nothing";
-}
-
-TEST_F(HistoryScreenTest, ClearButtonShowsAboveFiveEntries)
-{
-    H empty;
-    CheckedModel emptyChecks(&empty);
-    for (int s : { 0, 1, 2 }) {
-        empty.setSegment(s);
-        EXPECT_EQ(empty.rowCount(), 0);
-    }
-    EXPECT_FALSE(empty.clearButtonVisible());
-
     addEntries(5);
     H h;
     CheckedModel hChecks(&h);
     EXPECT_FALSE(h.clearButtonVisible()) << "5 entries";
-    addEntries(6);
+    addEntries(20);
     h.reload();
-    EXPECT_TRUE(h.clearButtonVisible()) << "6 entries";
-
+    EXPECT_TRUE(h.clearButtonVisible());
+    EXPECT_EQ(h.rowCount(), 12);
+    h.setSegment(H::AllSegment);
+    EXPECT_EQ(h.rowCount(), 20);
+    h.setSegment(7);
+    EXPECT_EQ(h.rowCount(), 0) << "an unknown segment shows nothing";
     h.clearHistory();
-    EXPECT_FALSE(h.clearButtonVisible());
-    EXPECT_EQ(h.rowCount(), 0);
     EXPECT_TRUE(history().allAlpha().isEmpty());
 }
 
@@ -135,7 +107,6 @@ TEST_F(HistoryScreenTest, ReloadsWhenTheModelFinishesLoading)
     addEntries(2);
     emit QORModel::sharedInstance()->modelLoadingStateChanged();
     EXPECT_EQ(h.rowCount(), 2);
-    EXPECT_TRUE(h.data(h.index(0), H::EnabledRole).toBool());
 }
 
 TEST_F(HistoryScreenTest, ChoosingARowOpensTheMaterial)
@@ -153,7 +124,6 @@ TEST_F(HistoryScreenTest, ChoosingARowOpensTheMaterial)
     QORAppDelegate* app = QORAppDelegate::sharedInstance();
     app->setFormFactorOverride("tablet");
     h.selectRow(0);
-    EXPECT_EQ(requested.count(), 1);
     EXPECT_EQ(app->detailMaterial().unId(), "2000") << "the tablet shows it in the detail area";
     app->showDetailForMaterial(MaterialRef());
 }

@@ -61,21 +61,11 @@ TEST_F(IsolationTest, ContainerSectionsFollowTheSmallSpillHalf)
         d.setMaterial(material(un));
         EXPECT_EQ(d.sections().size(), 1 + 3) << un;
     }
-
     d.setMaterial(material("2186"));
     const QList<QVariantMap> s2186 = sections(d);
     d.setMaterial(material("1050"));
     EXPECT_EQ(sections(d), s2186) << "2186 shares 1050's block";
-    EXPECT_EQ(d.headerLabel(), "Hydrogen Chloride");
-
-    const QList<QVariantMap> s = sections(d);
-    EXPECT_EQ(s.at(0).value("kind"), "condition");
-    EXPECT_TRUE(s.at(0).value("hideLargeSpill").toBool());
-    EXPECT_EQ(s.at(0).value("height"), IsolationTableDelegate::kShortRowHeight);
-    EXPECT_EQ(s.at(0).value("title"), "Default");
-    EXPECT_EQ(s.at(1).value("title"), "Rail Tank Car");
-    EXPECT_EQ(s.at(1).value("height"), IsolationTableDelegate::kRowHeight);
-    EXPECT_EQ(s.at(4).value("title"), "Multiple Small Cylinders or single ton cylinder");
+    EXPECT_TRUE(sections(d).at(0).value("hideLargeSpill").toBool());
 
     d.setMaterial(material("1090"));
     EXPECT_TRUE(d.empty()) << "no rows and no container block";
@@ -86,47 +76,26 @@ TEST_F(IsolationTest, FiguresShowInTheChosenUnitsAsStored)
     IsolationTableDelegate d;
     EXPECT_EQ(d.units(), IsolationTableDelegate::Imperial) << "imperial when nothing is stored";
     d.setMaterial(material("1079"));
-    QVariantMap rail = sections(d).at(1);
-    EXPECT_EQ(rail.value("title"), "Rail Tank Car");
-    EXPECT_EQ(rail.value("isolate"), "3000 ft");
-    EXPECT_EQ(rail.value("day").toStringList().at(0), "7+ mi");
-    EXPECT_EQ(rail.value("night").toStringList().at(2), "6.0 mi");
-    EXPECT_EQ(rail.value("windCaptions").toStringList().at(0), "Low wind (< 6 mph):");
-
+    EXPECT_EQ(sections(d).at(1).value("night").toStringList().at(2), "6.0 mi");
     d.segmentAction(IsolationTableDelegate::Metric);
-    EXPECT_EQ(QSettings().value("savedUnits").toInt(), 1);
-    rail = sections(d).at(1);
-    EXPECT_EQ(rail.value("isolate"), "1000 m");
-    EXPECT_EQ(rail.value("day").toStringList().at(0), "11+ km");
-    EXPECT_EQ(rail.value("night").toStringList().at(2), "9.6 km");
-    EXPECT_EQ(rail.value("windCaptions").toStringList().at(2), "High wind (> 20 km/h):");
+    EXPECT_EQ(IsolationTableDelegate().units(), IsolationTableDelegate::Metric) << "the choice is stored";
+    EXPECT_EQ(sections(d).at(1).value("night").toStringList().at(2), "9.6 km");
 
     d.setMaterial(material("2988"));
-    const QVariantMap water = sections(d).at(1);
-    EXPECT_EQ(water.value("smallNight"), "11+ km");
-    EXPECT_EQ(water.value("largeIsolate"), "300 m");
-    EXPECT_FALSE(water.value("hideLargeSpill").toBool());
+    EXPECT_EQ(sections(d).at(1).value("smallNight"), "11+ km") << "a '+' figure keeps its mark";
     d.segmentAction(IsolationTableDelegate::Imperial);
     EXPECT_EQ(sections(d).at(1).value("largeIsolate"), "1000 ft");
-    EXPECT_EQ(sections(d).at(1).value("smallDay"), "0.2 mi");
-
     EXPECT_TRUE(IsolationTableDelegate::largeSpillCell("1,2,3", 0).isEmpty()) << "a short row shows nothing rather than crash";
 }
 
 TEST_F(IsolationTest, WaterHeadersNameTheGasesProduced)
 {
+    // Several gases: see the UN1746 golden.
     IsolationTableDelegate d;
-    d.setMaterial(material("2988"));
-    EXPECT_EQ(d.titleForSection(0), "Default");
-    EXPECT_EQ(d.titleForSection(1), "Spilled In Water (TIH Gases Produced: HCl, H2)");
-
     MaterialPtr single = material("2988").ptr;
-    single->toxicInhalationHazard = QStringLiteral("HCl");
-    d.setMaterial(MaterialRef(single));
-    EXPECT_EQ(d.titleForSection(1), "Spilled In Water (TIH Gas Produced: HCl)");
     single->toxicInhalationHazard = QStringLiteral("X");
     d.setMaterial(MaterialRef(single));
-    EXPECT_EQ(d.titleForSection(1), "Spilled In Water");
+    EXPECT_EQ(d.titleForSection(1), "Spilled In Water") << "X names no gas";
     single->toxicInhalationHazard.reset();
     d.setMaterial(MaterialRef(single));
     EXPECT_EQ(d.titleForSection(1), "Spilled In Water");
@@ -167,10 +136,8 @@ TEST(IsolationZones, TheMaterialsOwnZoneLeadsTableAndSummary)
     ASSERT_EQ(d.sections().size(), 3);
     EXPECT_EQ(d.titleForSection(0), "Inhalation Hazard Zone D");
     EXPECT_EQ(d.sections().at(0).toMap().value("smallIsolate"), "30 m") << "the section shows its own zone's figures";
-    EXPECT_EQ(d.titleForSection(1), "Compressed Gas, Toxic, Flammable, N.O.S.") << "titled like the material list's names";
-
     d.setMaterial(MaterialRef(materials.at(0)));
-    EXPECT_EQ(d.titleForSection(0), "Compressed Gas, Toxic, Flammable, N.O.S.");
+    EXPECT_EQ(d.titleForSection(0), "Compressed Gas, Toxic, Flammable, N.O.S.") << "titled like the material list's names";
 
     SummaryTableDelegate summary;
     summary.setMaterial(materials.at(2));

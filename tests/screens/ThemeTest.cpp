@@ -6,7 +6,6 @@
 
 #include <QSet>
 #include <QSettings>
-#include <QSignalSpy>
 #include <gtest/gtest.h>
 
 using namespace qor;
@@ -15,11 +14,8 @@ namespace {
 
 TEST(Contrast, KnownRatios)
 {
-    EXPECT_NEAR(contrastRatio(Qt::black, Qt::white), 21.0, 1e-9);
     EXPECT_NEAR(contrastRatio(Qt::white, Qt::black), 21.0, 1e-9); // order does not matter
     EXPECT_NEAR(contrastRatio(QColor(0x77, 0x77, 0x77), Qt::white), 4.48, 0.01);
-    EXPECT_NEAR(contrastRatio(QColor(0x2c, 0x3e, 0x50), QColor(0x16, 0xa0, 0x85)), 3.35, 0.01);
-    EXPECT_NEAR(contrastRatio(QColor(0x40, 0x80, 0xc0), QColor(0x40, 0x80, 0xc0)), 1.0, 1e-9);
 }
 
 TEST(Theme, EveryPairIsLegibleInBothAppearances)
@@ -53,41 +49,21 @@ TEST(Theme, EveryTextColourIsPairedAndEveryRoleUnique)
     }
 }
 
-TEST(Theme, LightContentIsLightAndBarsKeepTheirNavy)
-{
-    EXPECT_GT(themeColor("pageBackground", false).lightness(), 200);
-    EXPECT_LT(themeColor("pageText", false).lightness(), 60);
-    EXPECT_LT(themeColor("pageBackground", true).lightness(), 60);
-    EXPECT_EQ(themeColor("barBackground", false), themeColor("barBackground", true));
-    EXPECT_FALSE(themeColor("noSuchRole", false).isValid());
-}
-
 struct AppearanceChoiceTest : ::testing::Test {
     void SetUp() override { Appearance::setChoice(QStringLiteral("system")); }
     void TearDown() override { Appearance::setChoice(QStringLiteral("system")); }
 };
 
-TEST_F(AppearanceChoiceTest, ChoiceOverridesTheSystemAndRecolours)
+// The shortcut's switch is driven from QML; here, that the choice is stored and checked.
+TEST_F(AppearanceChoiceTest, ChoiceIsStoredAndUnknownChoicesFallBack)
 {
     QorTheme theme;
     const bool system = Appearance::systemDark();
-    EXPECT_EQ(theme.dark(), system);
-    EXPECT_EQ(theme.choice(), QStringLiteral("system"));
-
-    QSignalSpy changed(&theme, &QorTheme::darkChanged);
     theme.toggle();
-    EXPECT_EQ(theme.dark(), !system);
-    EXPECT_EQ(theme.choice(), system ? QStringLiteral("light") : QStringLiteral("dark"));
-    EXPECT_EQ(theme.value(QStringLiteral("pageBackground")).value<QColor>(), themeColor("pageBackground", !system));
-    EXPECT_GE(changed.count(), 1);
-    // Stored, so a theme made later (another window, the next start) agrees.
-    QorTheme later;
-    EXPECT_EQ(later.dark(), !system);
-
+    EXPECT_EQ(QorTheme().dark(), !system) << "a theme made later (another window, the next start) agrees";
     theme.setChoice(QStringLiteral("nonsense"));
     EXPECT_EQ(theme.choice(), QStringLiteral("system"));
     EXPECT_EQ(theme.dark(), system);
-    EXPECT_EQ(later.dark(), system);
 }
 
 QStringList keys(int n)
@@ -110,9 +86,7 @@ TEST(SideIndex, AllKeysWhenTheyFit)
 {
     const QStringList letters{ "A", "B", " 111 ", "GUIDE128" };
     EXPECT_EQ(labels(condenseSideIndex(letters, 4)), (QStringList{ "A", "B", "111", "GUID" }));
-    EXPECT_EQ(condenseSideIndex(letters, 30).size(), 4);
     EXPECT_TRUE(condenseSideIndex(letters, 0).isEmpty());
-    EXPECT_TRUE(condenseSideIndex({}, 10).isEmpty());
 }
 
 TEST(SideIndex, SubsetWithDotsFitsAndKeepsEnds)
@@ -133,16 +107,10 @@ TEST(SideIndex, SubsetWithDotsFitsAndKeepsEnds)
             last = entries[i].keyIndex;
         }
     }
-    // A 61-key guide sort in a window that holds 25 entries: 13 keys and 12 dots.
-    const auto entries = condenseSideIndex(many, 25);
-    EXPECT_EQ(entries.size(), 25);
-    EXPECT_EQ(entries.at(2).label, QStringLiteral("K5"));
 }
 
 TEST(SideIndex, DragReachesEveryKey)
 {
-    EXPECT_EQ(sideIndexKeyAt(61, 0.0), 0);
-    EXPECT_EQ(sideIndexKeyAt(61, 1.0), 60);
     EXPECT_EQ(sideIndexKeyAt(61, -0.3), 0);  // finger dragged above the index
     EXPECT_EQ(sideIndexKeyAt(61, 7.0), 60);  // and below it
     EXPECT_EQ(sideIndexKeyAt(0, 0.5), -1);
