@@ -13,7 +13,6 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSettings>
 #include <gtest/gtest.h>
 
 using namespace qor;

@@ -5,7 +5,6 @@
 #include "Theme.h"
 
 #include <QSet>
-#include <QSettings>
 #include <gtest/gtest.h>
 
 using namespace qor;
