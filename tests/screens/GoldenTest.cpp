@@ -82,37 +82,32 @@ TEST_F(BundledPackGolden, MaterialListRows)
 {
     MaterialListController list;
     list.reload();
-    for (int turn = 0; turn < 4; ++turn) {
+    for (int turn = 0; turn < 4; ++turn, list.nextSort()) {
         const int sort = list.sortType();
-        QJsonArray sections;
-        QString key;
-        int inSection = 0;
         // The incidents sort is one long section: its top rows are the point.
         const int perSection = sort == SortIncidents ? 25 : 3;
+        auto at = [&](int row, int role) { return list.index(row).data(role).toString(); };
+        QJsonArray sections;
+        QJsonArray rows;
         for (int row = 0; row < list.rowCount(); ++row) {
-            const QModelIndex i = list.index(row);
-            const QString rowKey = i.data(MaterialListController::SectionKeyRole).toString();
-            if (row == 0 || rowKey != key) {
-                key = rowKey;
-                inSection = 0;
+            const QString key = at(row, MaterialListController::SectionKeyRole);
+            if (row == 0 || key != at(row - 1, MaterialListController::SectionKeyRole)) {
+                rows = QJsonArray();
                 sections.append(QJsonObject{ { QStringLiteral("key"), key },
-                                             { QStringLiteral("title"), i.data(MaterialListController::SectionRole).toString() },
-                                             { QStringLiteral("rows"), QJsonArray() } });
+                                             { QStringLiteral("title"), at(row, MaterialListController::SectionRole) } });
             }
-            if (inSection++ >= perSection)
+            if (rows.size() >= perSection)
                 continue;
+            rows.append(QJsonObject{ { QStringLiteral("name"), at(row, MaterialListController::NameRole) },
+                                     { QStringLiteral("unId"), at(row, MaterialListController::UnIdRole) },
+                                     { QStringLiteral("guideId"), at(row, MaterialListController::GuideIdRole) },
+                                     { QStringLiteral("placardImage"), at(row, MaterialListController::PlacardImageRole) },
+                                     { QStringLiteral("incidents"), at(row, MaterialListController::IncidentsTextRole) } });
             QJsonObject s = sections.last().toObject();
-            QJsonArray rows = s.value(QStringLiteral("rows")).toArray();
-            rows.append(QJsonObject{ { QStringLiteral("name"), i.data(MaterialListController::NameRole).toString() },
-                                     { QStringLiteral("unId"), i.data(MaterialListController::UnIdRole).toString() },
-                                     { QStringLiteral("guideId"), i.data(MaterialListController::GuideIdRole).toString() },
-                                     { QStringLiteral("placardImage"), i.data(MaterialListController::PlacardImageRole).toString() },
-                                     { QStringLiteral("incidents"), i.data(MaterialListController::IncidentsTextRole).toString() } });
             s.insert(QStringLiteral("rows"), rows);
             sections.replace(sections.size() - 1, s);
         }
         EXPECT_GT(sections.size(), 0) << "sort " << sort;
         EXPECT_TRUE(matchesGolden(kGolden + QStringLiteral("/lists/materials-sort%1.json").arg(sort), text(sections), "update_golden"));
-        list.nextSort();
     }
 }
