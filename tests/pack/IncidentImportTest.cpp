@@ -1,5 +1,5 @@
 // The incident importer on the real report files kept in the pack sources.
-#include "Cli.h"
+#include "CliRun.h"
 #include "FixturePack.h"
 #include "IncidentImport.h"
 
@@ -126,32 +126,24 @@ TEST_F(ImportFiles, WrongFormatStopsAndWritesNothing)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
-        const QString bad = write(QString::fromLatin1(c.name), c.bytes);
-        QString outText, errText;
-        QTextStream out(&outText), err(&errText);
-        const int rc = cli::run({ QStringLiteral("import-incidents"), QStringLiteral("--output"), output, good, bad }, out, err);
-        EXPECT_EQ(rc, 1);
-        EXPECT_TRUE(errText.contains(QLatin1String(c.message))) << errText.toStdString();
+        const CliResult r = runCli({ "import-incidents", "--output", output, good, write(QString::fromLatin1(c.name), c.bytes) });
+        EXPECT_EQ(r.code, 1);
+        EXPECT_TRUE(r.err.contains(QLatin1String(c.message))) << r.err.toStdString();
         QFile f(output);
         ASSERT_TRUE(f.open(QIODevice::ReadOnly));
         EXPECT_EQ(f.readAll(), QByteArray("earlier file"));
     }
-    QString outText, errText;
-    QTextStream out(&outText), err(&errText);
-    EXPECT_EQ(cli::run({ QStringLiteral("import-incidents"), QStringLiteral("--months"), QStringLiteral("0"), good }, out, err), 2);
-    EXPECT_EQ(cli::run({ QStringLiteral("import-incidents") }, out, err), 2);
+    EXPECT_EQ(runCli({ "import-incidents", "--months", "0", good }).code, 2);
 }
 
 TEST_F(ImportFiles, TheModelCountsTheImportedDatabase)
 {
     FixturePack pack;
     pack.setMaterials({ "ACETONE^3^127^1090^^^", "CORROSIVE LIQUIDS, BASIC, INORGANIC, N.O.S.^8^154^3266^^^" });
-    QString outText, errText;
-    QTextStream out(&outText), err(&errText);
-    QStringList args = { QStringLiteral("--json"), QStringLiteral("import-incidents"), QStringLiteral("--output"),
-                         pack.path(QStringLiteral("hazmat_incidents.dat")) };
-    ASSERT_EQ(cli::run(args + realReportFiles(), out, err), 0) << errText.toStdString();
-    const QJsonObject o = QJsonDocument::fromJson(outText.toUtf8()).object();
+    const CliResult r = runCli(QStringList{ "--json", "import-incidents", "--output", pack.path(QStringLiteral("hazmat_incidents.dat")) }
+                               + realReportFiles());
+    ASSERT_EQ(r.code, 0) << r.err.toStdString();
+    const QJsonObject o = r.json().object();
     EXPECT_EQ(o.value(QStringLiteral("countsByUnId")).toObject().value(QStringLiteral("1090")).toInt(), 1);
 
     ModelFixture model;

@@ -1,5 +1,5 @@
 // qor-cli validate: each class of violation on a small pack broken on purpose.
-#include "Cli.h"
+#include "CliRun.h"
 #include "MiniPack.h"
 
 #include "model/PackManifest.h"
@@ -334,39 +334,38 @@ TEST(PackValidator, ManyFaultsOfOneKindAreCapped)
 TEST(PackValidator, CommandExitStatusAndJson)
 {
     MiniPack pack;
-    QString outText, errText;
-    QTextStream out(&outText), err(&errText);
-    EXPECT_EQ(cli::run({ QStringLiteral("validate"), pack.dir() }, out, err), 0) << outText.toStdString();
-    EXPECT_TRUE(outText.contains(QStringLiteral("the pack is valid")));
+    const CliResult valid = runCli({ "validate", pack.dir() });
+    EXPECT_EQ(valid.code, 0) << valid.out.toStdString();
+    EXPECT_TRUE(valid.out.contains(QStringLiteral("the pack is valid")));
 
     pack.removeFile(QStringLiteral("8.pdf"));
-    outText.clear();
-    EXPECT_EQ(cli::run({ QStringLiteral("--json"), QStringLiteral("validate"), pack.dir() }, out, err), 1);
-    const QJsonObject o = QJsonDocument::fromJson(outText.toUtf8()).object();
+    const CliResult broken = runCli({ "--json", "validate", pack.dir() });
+    EXPECT_EQ(broken.code, 1);
+    const QJsonObject o = broken.json().object();
     EXPECT_FALSE(o.value(QStringLiteral("valid")).toBool(true));
     QStringList files;
     for (const QJsonValue& item : o.value(QStringLiteral("violations")).toArray())
         files << item.toObject().value(QStringLiteral("file")).toString();
     EXPECT_TRUE(files.contains(QStringLiteral("8.pdf"))) << files.join(QLatin1Char(' ')).toStdString();
 
-    EXPECT_EQ(cli::run({ QStringLiteral("validate"), pack.path(QStringLiteral("nowhere")) }, out, err), 1);
-    EXPECT_EQ(cli::run({ QStringLiteral("validate"), pack.dir(), pack.dir() }, out, err), 2);
+    EXPECT_EQ(runCli({ "validate", pack.path(QStringLiteral("nowhere")) }).code, 1);
+    EXPECT_EQ(runCli({ "validate", pack.dir(), pack.dir() }).code, 2);
 }
 
 TEST(PackInfo, ShowsTheManifestAndCounts)
 {
     MiniPack pack;
-    QString outText, errText;
-    QTextStream out(&outText), err(&errText);
-    ASSERT_EQ(cli::run({ QStringLiteral("--json"), QStringLiteral("pack-info"), pack.dir() }, out, err), 0);
-    const QJsonObject o = QJsonDocument::fromJson(outText.toUtf8()).object();
+    const CliResult info = runCli({ "--json", "pack-info", pack.dir() });
+    ASSERT_EQ(info.code, 0);
+    const QJsonObject o = info.json().object();
     EXPECT_EQ(o.value(QStringLiteral("notice")).toString(), PackManifest::sampleNotice());
     EXPECT_EQ(o.value(QStringLiteral("materials")).toInt(), 3);
     EXPECT_EQ(o.value(QStringLiteral("incidents")).toInt(), 1);
 
     pack.removeFile(QStringLiteral("pack.json"));
-    EXPECT_EQ(cli::run({ QStringLiteral("pack-info"), pack.dir() }, out, err), 1);
-    EXPECT_TRUE(errText.contains(QStringLiteral("pack.json"))) << errText.toStdString();
+    const CliResult missing = runCli({ "pack-info", pack.dir() });
+    EXPECT_EQ(missing.code, 1);
+    EXPECT_TRUE(missing.err.contains(QStringLiteral("pack.json"))) << missing.err.toStdString();
 }
 
 } // namespace
