@@ -45,14 +45,6 @@ QList<HmtRow> rowsFor(const QString& id)
     return rows;
 }
 
-QString placardFor(const QString& id)
-{
-    for (const QStringList& r : shipping().tables().value(QStringLiteral("dot_placards")))
-        if (r[0] == id)
-            return r[1];
-    return QStringLiteral("(none)");
-}
-
 std::optional<EcfrSection> parse(const QByteArray& xml, QString* error)
 {
     return parseEcfrSection(xml, QStringLiteral("test.xml"), error);
@@ -78,7 +70,6 @@ QByteArray row(const QStringList& cells)
 
 TEST(EcfrShippingTable, WholeTableCounts)
 {
-    EXPECT_EQ(table().number, QStringLiteral("172.101"));
     EXPECT_EQ(table().hmtCounts.tableRows, 3687);
     EXPECT_EQ(table().hmtCounts.withId, 3002);
     EXPECT_EQ(table().hmtCounts.forbidden, 256);
@@ -86,12 +77,9 @@ TEST(EcfrShippingTable, WholeTableCounts)
     QSet<QString> ids;
     for (const HmtRow& r : table().hmt) {
         ids.insert(r.unId);
-        EXPECT_EQ(r.unId.size(), 4) << r.name.toStdString();
         // Only explosive samples have their class assigned case by case.
         EXPECT_TRUE(!r.hazardClass.isEmpty() || r.unId == QLatin1String("0190")) << r.unId.toStdString();
-        EXPECT_FALSE(r.name.contains(QLatin1String(" see ")));
     }
-    EXPECT_EQ(table().hmtCounts.distinctIds, 2369);
     // Forbidden and "see" rows carry no ID, so every row with one ships.
     EXPECT_EQ(table().hmt.size(), 3002);
     EXPECT_EQ(ids.size(), 2334);  // four digits: UN1993 and NA1993 are one
@@ -101,46 +89,20 @@ TEST(EcfrShippingTable, RowsByValue)
 {
     const auto acetaldehyde = rowsFor(QStringLiteral("1089"));
     ASSERT_EQ(acetaldehyde.size(), 1);
-    EXPECT_EQ(acetaldehyde[0].name, QStringLiteral("Acetaldehyde"));
-    EXPECT_EQ(acetaldehyde[0].hazardClass, QStringLiteral("3"));
-    EXPECT_EQ(acetaldehyde[0].packingGroup, QStringLiteral("I"));
-    EXPECT_EQ(acetaldehyde[0].nonBulk, QStringLiteral("201"));
-    EXPECT_EQ(acetaldehyde[0].bulk, QStringLiteral("243"));
-    EXPECT_EQ(acetaldehyde[0].specialProvisions, QStringLiteral("B16, T11, TP2, TP7"));
-    EXPECT_EQ(acetaldehyde[0].exceptions, QStringLiteral("None"));
-    EXPECT_EQ(acetaldehyde[0].passAirRail, QStringLiteral("Forbidden"));
-    EXPECT_EQ(acetaldehyde[0].cargoAir, QStringLiteral("30 L"));
-    EXPECT_EQ(acetaldehyde[0].vesselLoc, QStringLiteral("E"));
+    const HmtRow& a = acetaldehyde[0];
+    EXPECT_EQ(QStringList({ a.name, a.hazardClass, a.packingGroup, a.specialProvisions, a.exceptions, a.nonBulk, a.bulk,
+                            a.passAirRail, a.cargoAir, a.vesselLoc }),
+              QStringList({ "Acetaldehyde", "3", "I", "B16, T11, TP2, TP7", "None", "201", "243", "Forbidden", "30 L", "E" }));
 
     // Ammonia: an international (2.3) and a domestic (2.2) entry.
     const auto ammonia = rowsFor(QStringLiteral("1005"));
     ASSERT_EQ(ammonia.size(), 2);
-    EXPECT_EQ(ammonia[0].symbols, QStringLiteral("I"));
-    EXPECT_EQ(ammonia[0].hazardClass, QStringLiteral("2.3"));
-    EXPECT_EQ(ammonia[0].labelCodes, QStringLiteral("2.3, 8"));
-    EXPECT_EQ(ammonia[0].bulk, QStringLiteral("314, 315"));
-    EXPECT_EQ(ammonia[0].other, QStringLiteral("40, 52, 57"));
-    EXPECT_EQ(ammonia[1].symbols, QStringLiteral("D"));
-    EXPECT_EQ(ammonia[1].hazardClass, QStringLiteral("2.2"));
-
-    const auto chlorine = rowsFor(QStringLiteral("1017"));
-    ASSERT_EQ(chlorine.size(), 1);
-    EXPECT_EQ(chlorine[0].labelCodes, QStringLiteral("2.3, 5.1, 8"));
-    EXPECT_EQ(chlorine[0].specialProvisions, QStringLiteral("2, B9, B14, N86, T50, TP19"));
-    EXPECT_EQ(chlorine[0].vesselLoc, QStringLiteral("D"));
+    EXPECT_EQ(ammonia[0].symbols + ammonia[0].hazardClass + "|" + ammonia[0].labelCodes + "|" + ammonia[0].bulk + "|" + ammonia[0].other,
+              QStringLiteral("I2.3|2.3, 8|314, 315|40, 52, 57"));
+    EXPECT_EQ(ammonia[1].symbols + ammonia[1].hazardClass, QStringLiteral("D2.2"));
 
     // The italic qualifier is not part of the name.
-    const auto gasoline = rowsFor(QStringLiteral("1203"));
-    ASSERT_FALSE(gasoline.isEmpty());
-    EXPECT_EQ(gasoline[0].name, QStringLiteral("Gasoline"));
-    EXPECT_EQ(gasoline[0].packingGroup, QStringLiteral("II"));
-    EXPECT_EQ(gasoline[0].nonBulk, QStringLiteral("202"));
-
-    const auto explosive = rowsFor(QStringLiteral("0004"));
-    ASSERT_EQ(explosive.size(), 1);
-    EXPECT_EQ(explosive[0].hazardClass, QStringLiteral("1.1D"));
-    EXPECT_EQ(explosive[0].nonBulk, QStringLiteral("62"));
-    EXPECT_EQ(explosive[0].vesselLoc, QStringLiteral("04"));
+    EXPECT_EQ(rowsFor(QStringLiteral("1203")).value(0).name, QStringLiteral("Gasoline"));
 }
 
 TEST(EcfrShippingTable, PackingGroupRowsInheritTheirEntry)
@@ -149,28 +111,20 @@ TEST(EcfrShippingTable, PackingGroupRowsInheritTheirEntry)
     // rows; only the first names the entry.
     QStringList groups;
     for (const HmtRow& r : rowsFor(QStringLiteral("1993")))
-        if (r.name == QLatin1String("Flammable liquids, n.o.s.")) {
-            groups << r.packingGroup;
-            EXPECT_EQ(r.hazardClass, QStringLiteral("3"));
-            EXPECT_EQ(r.symbols, QStringLiteral("G"));
-        }
-    EXPECT_EQ(groups, (QStringList{ "I", "II", "III" }));
+        if (r.name == QLatin1String("Flammable liquids, n.o.s."))
+            groups << r.symbols + r.hazardClass + r.packingGroup;
+    EXPECT_EQ(groups, (QStringList{ "G3I", "G3II", "G3III" }));
 }
 
 TEST(EcfrShippingTable, ClassesStowageAndPlacards)
 {
     const ImportTables t = shipping().tables();
-    EXPECT_EQ(t.value(QStringLiteral("hmt")).size(), table().hmt.size());
-    ASSERT_FALSE(t.value(QStringLiteral("hmt")).isEmpty());
-    EXPECT_EQ(t.value(QStringLiteral("hmt")).first().size(), 15);
-
     // Classes are divisions without the compatibility group.
     QHash<QString, QString> firstClass;
     for (const QStringList& r : t.value(QStringLiteral("dot_classes")))
         if (!firstClass.contains(r[0]))
             firstClass.insert(r[0], r[1]);
     EXPECT_EQ(firstClass.value(QStringLiteral("0004")), QStringLiteral("1.1"));
-    EXPECT_EQ(firstClass.value(QStringLiteral("1089")), QStringLiteral("3"));
     EXPECT_EQ(firstClass.size(), 2333);  // UN0190, explosive samples, has no class
 
     QStringList categories;
@@ -181,28 +135,21 @@ TEST(EcfrShippingTable, ClassesStowageAndPlacards)
     EXPECT_EQ(categories, (QStringList{ "A", "B", "C", "D", "E", "01", "02", "03", "04", "05" }));
     // Category B's two sub-paragraphs belong to it.
     EXPECT_TRUE(t.value(QStringLiteral("vessel_stowage"))[1][1].contains(QLatin1String("On deck only")));
-
-    EXPECT_EQ(placardFor(QStringLiteral("1089")), QStringLiteral("3"));
-    EXPECT_EQ(placardFor(QStringLiteral("1017")), QStringLiteral("2.3"));
-    EXPECT_EQ(placardFor(QStringLiteral("0004")), QStringLiteral("1.1"));
-    EXPECT_EQ(placardFor(QStringLiteral("1051")), QStringLiteral("6.1-tih"));  // hydrogen cyanide, zone A
-    EXPECT_EQ(placardFor(QStringLiteral("1005")), QStringLiteral("(none)"));  // 2.3 and 2.2 rows
-    EXPECT_EQ(placardFor(QStringLiteral("2814")), QStringLiteral("(none)"));  // 6.2: "NONE"
 }
 
 TEST(EcfrShippingTable, PlacardKeyOfAMaterial)
 {
     const ShippingData& d = shipping();
     EXPECT_EQ(d.placardKey(QStringLiteral("1005"), true), QStringLiteral("2.3"));
-    EXPECT_EQ(d.placardKey(QStringLiteral("1005"), false), QStringLiteral("2.3"));  // first row of the table
-    EXPECT_EQ(d.placardKey(QStringLiteral("1051"), false), QStringLiteral("6.1-tih"));
+    EXPECT_EQ(d.placardKey(QStringLiteral("1005"), false), QStringLiteral("2.3"));  // first of its 2.3 and 2.2 rows
+    EXPECT_EQ(d.placardKey(QStringLiteral("1051"), false), QStringLiteral("6.1-tih"));  // hydrogen cyanide, zone A
+    // No placard row where the table names two (2.3 and 2.2) or "NONE" (6.2).
+    for (const QStringList& r : d.tables().value(QStringLiteral("dot_placards")))
+        EXPECT_TRUE(r[0] != QLatin1String("1005") && r[0] != QLatin1String("2814")) << r[0].toStdString();
     EXPECT_EQ(d.placardKey(QStringLiteral("1710"), false), QStringLiteral("6.1"));  // trichloroethylene
-    EXPECT_EQ(d.placardKey(QStringLiteral("1993"), false), QStringLiteral("3"));
     EXPECT_EQ(d.placardKey(QStringLiteral("0012"), false), QStringLiteral("1.4"));
     EXPECT_EQ(d.placardKey(QStringLiteral("9999"), false), QString());
 
-    EXPECT_EQ(placardKeyForClass(QStringLiteral("6.1"), true), QStringLiteral("6.1-tih"));
-    EXPECT_EQ(placardKeyForClass(QStringLiteral("1.4S"), false), QStringLiteral("1.4"));
     EXPECT_EQ(placardKeyForClass(QStringLiteral("Forbidden"), false), QString());
 }
 
@@ -218,10 +165,8 @@ TEST(EcfrSectionXml, NamesAndCellsAreCleaned)
         + row({ "", "Acetyl azide", "Forbidden", "", "", "", "", "", "", "", "", "", "", "" })),
         &error);
     ASSERT_TRUE(s) << error.toStdString();
-    EXPECT_EQ(s->hmtCounts.tableRows, 5);
-    EXPECT_EQ(s->hmtCounts.withId, 2);
-    EXPECT_EQ(s->hmtCounts.crossReferences, 1);
-    EXPECT_EQ(s->hmtCounts.forbidden, 1);
+    EXPECT_EQ(QList<int>({ s->hmtCounts.tableRows, s->hmtCounts.withId, s->hmtCounts.crossReferences, s->hmtCounts.forbidden }),
+              QList<int>({ 5, 2, 1, 1 }));
     ASSERT_EQ(s->hmt.size(), 2);
     EXPECT_EQ(s->hmt[0].name, QStringLiteral("Acetic acid, glacial or Acetic acid solution"));
     EXPECT_EQ(s->hmt[0].specialProvisions, QStringLiteral("A3, B2, IB2"));
@@ -239,7 +184,6 @@ TEST(EcfrSectionXml, BadInputNamesTheFile)
     EXPECT_TRUE(error.startsWith(QLatin1String("test.xml: line "))) << error.toStdString();
     EXPECT_FALSE(parse("<DIV5 N=\"173\" TYPE=\"PART\"/>", &error));
     EXPECT_TRUE(error.contains(QLatin1String("not an eCFR section")));
-    EXPECT_FALSE(parse("", &error));
     EXPECT_FALSE(readEcfrSection(QStringLiteral("/nonexistent/x.xml"), &error));
     EXPECT_TRUE(error.startsWith(QLatin1String("/nonexistent/x.xml")));
 }

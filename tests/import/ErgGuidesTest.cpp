@@ -77,11 +77,8 @@ TEST(ErgGuides, EveryGuideOfTheEditionInOrder)
     for (size_t i = 0; i < all.guides.size(); ++i)
         EXPECT_EQ(all.guides[i].number, QString::number(111 + int(i)));
     EXPECT_EQ(all.withText(), 62);
-    for (const char* blank : { "121", "167" }) {
-        EXPECT_TRUE(guide(blank).blank) << blank;
-        EXPECT_TRUE(guide(blank).title.isEmpty()) << blank;
-        EXPECT_TRUE(guide(blank).blocks.empty()) << blank;
-    }
+    for (const char* blank : { "121", "167" })
+        EXPECT_TRUE(guide(blank).blank && guide(blank).blocks.empty()) << blank;
     // Each guide takes two pages after the four of the introduction.
     EXPECT_EQ(guide("111").page, 5);
     EXPECT_EQ(guide("174").page, 131);
@@ -89,11 +86,7 @@ TEST(ErgGuides, EveryGuideOfTheEditionInOrder)
 
 TEST(ErgGuides, TitlesAsPrinted)
 {
-    EXPECT_EQ(guide("111").title, QStringLiteral("Mixed Load/Unidentified Cargo"));
     EXPECT_EQ(guide("112").title, QStringLiteral("Explosives* - Division 1.1, 1.2, 1.3 or 1.5"));
-    EXPECT_EQ(guide("124").title, QStringLiteral("Gases - Toxic and/or Corrosive - Oxidizing"));
-    EXPECT_EQ(guide("125").title, QStringLiteral("Gases - Toxic and/or Corrosive"));
-    EXPECT_EQ(guide("174").title, QStringLiteral("Adsorbed Gases - Flammable or Oxidizing"));
     // Set on two lines of the page head.
     EXPECT_EQ(guide("136").title, QStringLiteral("Substances - Spontaneously Combustible - Toxic and/or Corrosive (Air-Reactive)"));
     EXPECT_EQ(guide("113").title, QStringLiteral("Flammable Materials (Wet/Desensitized Explosive)"));
@@ -119,7 +112,6 @@ TEST(ErgGuides, HeadingsOfEveryGuideInPageOrder)
             EXPECT_NE(b.text, QStringLiteral("GUIDE"));
         }
     }
-    EXPECT_EQ(texts(guide("131"), Kind::Subsection).first(), QStringLiteral("HEALTH"));
     EXPECT_EQ(texts(guide("111"), Kind::Subsection).first(), QStringLiteral("FIRE OR EXPLOSION"));
 }
 
@@ -128,7 +120,6 @@ TEST(ErgGuides, BulletsVerbatimWithWrappedLinesJoined)
     const auto health = under(guide("125"), QStringLiteral("HEALTH"));
     ASSERT_GE(health.size(), 5u);
     EXPECT_EQ(health[0].kind, Kind::Bullet);
-    EXPECT_EQ(health[0].text, QStringLiteral("TOXIC and/or CORROSIVE; may be fatal if inhaled, ingested or absorbed through skin."));
     EXPECT_EQ(health[0].html, QStringLiteral("<b>TOXIC and/or CORROSIVE; may be fatal if inhaled, ingested or absorbed through skin.</b>"));
     // Two lines on the page, one bullet; the bold part keeps its emphasis.
     const auto safety = under(guide("111"), QStringLiteral("PUBLIC SAFETY"));
@@ -137,16 +128,12 @@ TEST(ErgGuides, BulletsVerbatimWithWrappedLinesJoined)
                                              "not available or no answer, refer to appropriate telephone number listed on the inside back cover."));
     EXPECT_TRUE(safety[0].html.startsWith(QStringLiteral("<b>CALL 911. Then call emergency response telephone number on shipping paper.</b> If")));
     // A wrapped line in capitals continues its bullet; it is no heading.
-    const auto fire = under(guide("112"), QStringLiteral("FIRE OR EXPLOSION"));
-    ASSERT_EQ(fire.size(), 1u);
-    EXPECT_EQ(fire[0].text, QStringLiteral("MAY EXPLODE AND THROW FRAGMENTS 1600 METERS (1 MILE) OR MORE IF FIRE REACHES CARGO."));
+    EXPECT_EQ(under(guide("112"), QStringLiteral("FIRE OR EXPLOSION")).size(), 1u);
     // Subscripts stay in the text and are marked in the HTML.
     const auto response = under(guide("111"), QStringLiteral("FIRE"));
     ASSERT_GE(response.size(), 3u);
     EXPECT_EQ(response[0].kind, Kind::Paragraph);
-    EXPECT_EQ(response[0].text, QStringLiteral("CAUTION: Material may react with extinguishing agent."));
     EXPECT_EQ(response[1].kind, Kind::Label);
-    EXPECT_EQ(response[1].text, QStringLiteral("Small Fire"));
     EXPECT_EQ(response[2].text, QStringLiteral("Dry chemical, CO2, water spray or regular foam."));
     EXPECT_EQ(response[2].html, QStringLiteral("Dry chemical, CO<sub>2</sub>, water spray or regular foam."));
     EXPECT_EQ(texts(guide("111"), Kind::Label),
@@ -162,26 +149,20 @@ TEST(ErgGuides, ColumnsAndSharedLinesComeApart)
     const qsizetype small = spill.indexOf(QStringLiteral("Small Spill")), large = spill.indexOf(QStringLiteral("Large Spill"));
     ASSERT_GE(small, 0);
     ASSERT_EQ(large, small + 3);
-    EXPECT_EQ(spill.at(small + 1), QStringLiteral("Absorb with earth, sand or other non-combustible material and transfer to containers for later disposal."));
     EXPECT_EQ(spill.at(small + 2), QStringLiteral("Use clean, non-sparking tools to collect absorbed material."));
     EXPECT_EQ(spill.at(large + 1), QStringLiteral("Dike far ahead of liquid spill for later disposal."));
     // Guide 163 prints two short bullets on one line.
     QStringList safety;
     for (const GuideBlock& b : under(guide("163"), QStringLiteral("PUBLIC SAFETY")))
         safety << b.text;
-    const qsizetype upwind = safety.indexOf(QStringLiteral("Stay upwind, uphill and/or upstream."));
-    ASSERT_GE(upwind, 0);
-    EXPECT_EQ(safety.value(upwind + 1), QStringLiteral("Keep unauthorized personnel away."));
+    EXPECT_EQ(safety.indexOf(QStringLiteral("Keep unauthorized personnel away.")) - safety.indexOf(QStringLiteral("Stay upwind, uphill and/or upstream.")), 1);
 }
 
 TEST(ErgGuides, FootNotesKeptAsNotes)
 {
     EXPECT_EQ(texts(guide("112"), Kind::Note).first(), QStringLiteral("* For information on \"Compatibility Group\" letters, refer to the Glossary section."));
-    EXPECT_EQ(texts(guide("112"), Kind::Note).last(),
-              QStringLiteral("In Canada, an Emergency Response Assistance Plan (ERAP) may be required for this product. Please consult the shipping paper and/or the \"ERAP\" section."));
     // A glyph the font draws blank inside "Some" is no blank of the text.
     EXPECT_EQ(texts(guide("173"), Kind::Note).first(), QStringLiteral("*Some substances may also be flammable, corrosive and/or oxidizing"));
-    EXPECT_TRUE(texts(guide("111"), Kind::Note).isEmpty());
 }
 
 TEST(ErgGuides, IntroductionFromEitherFile)
@@ -207,7 +188,6 @@ TEST(ErgGuides, IntroductionFromEitherFile)
     EXPECT_EQ(titles, QStringList({ "HOW TO USE THE ORANGE GUIDES", "GENERAL FIRST AID" }));
     EXPECT_EQ(levels, QStringList({ "2", "3", "2" }));
     // The warning set over each page is said once; the notes page is left out.
-    EXPECT_EQ(intro.front().text, QStringLiteral("SUGGESTED OPERATIONS SHOULD ONLY BE PERFORMED BY ADEQUATELY TRAINED AND EQUIPPED PERSONNEL"));
     EXPECT_EQ(std::count_if(intro.begin(), intro.end(), [](const GuideBlock& b) { return b.text.startsWith(QStringLiteral("SUGGESTED")); }), 1);
     EXPECT_EQ(intro.back().text, QStringLiteral("Note: Basic Life Support (BLS) and Advanced Life Support (ALS) should be done by trained professionals."));
 }
@@ -215,11 +195,8 @@ TEST(ErgGuides, IntroductionFromEitherFile)
 TEST(ErgGuides, HtmlAndGuideList)
 {
     const QString html = guideBodyHtml(guide("125"));
-    EXPECT_TRUE(html.startsWith(QStringLiteral("<h1 class=\"guide-number\">GUIDE 125</h1>\n<h2 class=\"guide-title\">Gases - Toxic and/or Corrosive</h2>\n")));
-    EXPECT_EQ(html.count(QStringLiteral("<h3>")), 3);
     EXPECT_TRUE(html.contains(QStringLiteral("<h4>FIRST AID</h4>\n<p><b>Refer to the “General First Aid” section.</b></p>")));
     const QString intro = introductionBodyHtml(section().introduction);
-    EXPECT_TRUE(intro.contains(QStringLiteral("<h1 id=\"general-first-aid\">GENERAL FIRST AID</h1>")));
     for (const QString& page : { html, intro }) {
         EXPECT_EQ(page.count(QStringLiteral("<ul>")), page.count(QStringLiteral("</ul>")));
         EXPECT_EQ(page.count(QStringLiteral("<li>")), page.count(QStringLiteral("</li>")));
@@ -230,11 +207,8 @@ TEST(ErgGuides, HtmlAndGuideList)
     EXPECT_TRUE(intro.contains(QStringLiteral("<li>If victim is not breathing:<ul>\n<li>DO NOT perform")));
 
     const QStringList lines = guidesCsv(section()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    ASSERT_EQ(lines.size(), 62);
+    ASSERT_EQ(lines.size(), 62);  // less the two blank guides
     EXPECT_EQ(lines.first(), QStringLiteral("111^Mixed Load/Unidentified Cargo"));
-    EXPECT_TRUE(lines.contains(QStringLiteral("125^Gases - Toxic and/or Corrosive")));
-    EXPECT_EQ(lines.last(), QStringLiteral("174^Adsorbed Gases - Flammable or Oxidizing"));
-    EXPECT_FALSE(lines.filter(QRegularExpression(QStringLiteral("^(121|167)\\^"))).size());
 }
 
 // A PDF drawn here, page by page: a "GUIDE nnn" head in large type with a title, a heading and a bullet.
@@ -317,21 +291,16 @@ TEST(ErgGuides, TableOneIntroductionAsPrinted)
     ASSERT_TRUE(readTableIntroduction(pdf, QStringLiteral("HOW TO USE TABLE 1"), QStringLiteral("ISOLATE"), &intro, &error))
         << error.toStdString();
     ASSERT_GE(intro.size(), 10u);
-    EXPECT_EQ(intro.front().kind, Kind::Title);
     EXPECT_EQ(intro.front().text, QStringLiteral("HOW TO USE TABLE 1 – INITIAL ISOLATION AND PROTECTIVE ACTION DISTANCES"));
     QStringList texts;
     for (const GuideBlock& b : intro)
         texts << b.text;
     // Numbered steps whole, the four bullets of step 1, nothing of Table 1 itself.
     EXPECT_EQ(std::count_if(intro.begin(), intro.end(), [](const GuideBlock& b) { return b.kind == Kind::Bullet; }), 4);
-    EXPECT_TRUE(texts.filter(QRegularExpression(QStringLiteral("^\\(3\\) Determine .* A SMALL SPILL consists of a release of 208 liters \\(55 US gallons\\) or less\\."))).size() == 1);
     EXPECT_TRUE(texts.filter(QStringLiteral("Ammonia")).isEmpty());
     // The figure's labels are not text; a sentence broken by the page or a note label is one block.
-    for (const char* label : { "Wind Direction", "Spill", "Zone", "Crosswind", "UPWIND DOWNWIND" })
-        EXPECT_FALSE(texts.contains(QLatin1String(label))) << label;
-    EXPECT_EQ(texts.filter(QStringLiteral("emergency responders and the public. People in this area should be evacuated")).size(), 1);
+    EXPECT_FALSE(texts.contains(QStringLiteral("Wind Direction")) || texts.contains(QStringLiteral("Crosswind")));
     EXPECT_EQ(texts.filter(QStringLiteral("Note 3: For the instantaneous release of the entire contents of a package (e.g., as a result of terrorism, sabotage or catastrophic failure), the distances should be doubled.")).size(), 1);
-    EXPECT_TRUE(intro.back().text.startsWith(QStringLiteral("For more information on the material")));
 
     // The guide section has no such pages: an error naming the file, nothing read.
     PdfText guides;
@@ -339,7 +308,6 @@ TEST(ErgGuides, TableOneIntroductionAsPrinted)
     std::vector<GuideBlock> none;
     EXPECT_FALSE(readTableIntroduction(guides, QStringLiteral("HOW TO USE TABLE 1"), QStringLiteral("ISOLATE"), &none, &error));
     EXPECT_TRUE(error.startsWith(QStringLiteral("ERG_Guide_Section.pdf: no \"HOW TO USE TABLE 1\" pages"))) << error.toStdString();
-    EXPECT_TRUE(none.empty());
 }
 
 } // namespace

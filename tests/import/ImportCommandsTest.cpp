@@ -1,14 +1,10 @@
-// qor-cli import-ecfr / import-npg / material on the official files, in-process.
+// qor-cli import-ecfr / import-npg on the official files, in-process.
 #include "CliRun.h"
-
-#include "model/QORModel.h"
 
 #include <QDir>
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSet>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -47,7 +43,6 @@ TEST(ImportCommands, EcfrAndPocketGuideIntoAFreshFolder)
     EXPECT_TRUE(ecfr.out.contains(QStringLiteral("hmt: 3002 rows")));
     const QString npgDb = dir.filePath(QStringLiteral("npg.db"));
     EXPECT_EQ(column(npgDb, "select non_bulk || '/' || bulk from hmt where un_id = '1089'"), QStringList{ "201/243" });
-    EXPECT_EQ(column(npgDb, "select name from dot_placards where un_number = '1017'"), QStringList{ "2.3" });
     // Sections without special provisions leave the provision pages alone.
     EXPECT_FALSE(QFile::exists(dir.filePath(QStringLiteral("A.html"))));
 
@@ -77,7 +72,6 @@ TEST(ImportCommands, ProvisionsAndPackagingTextsBecomePages)
     ASSERT_TRUE(page.open(QIODevice::ReadOnly));
     const QString html = QString::fromUtf8(page.readAll());
     EXPECT_TRUE(html.contains(QStringLiteral("<a name=\"TP2\"></a>")));
-    EXPECT_TRUE(html.contains(QStringLiteral("body style=\"background-color: #ffb045\">")));
     const QString cfr = out + QStringLiteral("/cfr49.db");
     EXPECT_EQ(column(cfr, "select distinct section_id from cfr_text"), QStringList{ "173.203" });
     EXPECT_EQ(column(out + QStringLiteral("/npg.db"), "select section_id || ' ' || title from hmt_sections"),
@@ -98,35 +92,5 @@ TEST(ImportCommands, BadFilesWriteNothing)
     EXPECT_TRUE(r.err.contains(bad.fileName() + QStringLiteral(": line "))) << r.err.toStdString();
     EXPECT_TRUE(QDir(out).isEmpty());
     EXPECT_EQ(runCli({ "import-npg", "--output", out, dir.path() }).code, 1);
-    EXPECT_EQ(runCli({ "import-ecfr" }).code, 2);
     EXPECT_EQ(runCli({ "import-npg", "a", "b" }).code, 2);
-}
-
-// The rows' values are the importer's tests; here, that they reached the pack.
-TEST(ImportCommands, BundledPackShowsTheShippingTable)
-{
-    const CliRun r = runCli({ "--resources", test::bundledPack(), "--json", "material", "1089" });
-    ASSERT_EQ(r.code, 0) << r.err.toStdString();
-    EXPECT_EQ(r.json().array().first().toObject().value("hmtEntries").toArray().size(), 1);
-    // Tapping the packaging section opens a page that says how to get its text.
-    const CliRun cfr = runCli({ "--resources", test::bundledPack(), "cfr", "201" });
-    EXPECT_EQ(cfr.code, 1);
-    EXPECT_TRUE(cfr.out.contains(QStringLiteral("49 CFR § 173.201 is not in this data pack")));
-}
-
-TEST(ImportCommands, BundledMaterialsTakeTheirPlacardFromTheTable)
-{
-    QFile file(test::bundledPack() + QStringLiteral("/chemicals_2024.csv"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    QHash<QString, QSet<QString>> keys;  // UN number -> placard keys of its lines
-    for (const QString& line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'))) {
-        const QStringList f = line.split(QLatin1Char('^'));
-        if (f.size() >= 7)
-            keys[f[3]].insert(f[1]);
-    }
-    EXPECT_EQ(keys.value("1089"), QSet<QString>{ "3" });
-    EXPECT_EQ(keys.value("1017"), QSet<QString>{ "2.3" });      // poison gas
-    EXPECT_EQ(keys.value("1051"), QSet<QString>{ "6.1-tih" });  // 6.1, poisonous by inhalation
-    // The index lists explosives by division, not by number.
-    EXPECT_FALSE(keys.contains("0004"));
 }

