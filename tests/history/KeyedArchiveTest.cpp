@@ -78,23 +78,6 @@ TEST(KeyedArchive, ReadsTheLegacyHistoryInXmlAndBinaryForm)
     }
 }
 
-TEST(KeyedArchive, WritesWhatItReadsIncludingCollectionsDatesAndNil)
-{
-    ArchivedObject obj{ "Thing", {}, { { "count", 3 }, { "flag", true }, { "missing", QVariant() },
-                                      { "when", QDateTime::fromMSecsSinceEpoch(1709647629123) },
-                                      { "list", QVariantList{ "a", 2, QVariantMap{ { "k", "v" } } } } } };
-    QString error;
-    const auto bytes = keyedarchive::archive(QVariant::fromValue(obj), &error);
-    ASSERT_TRUE(bytes) << error.toStdString();
-    const auto back = keyedarchive::unarchive(*bytes);
-    ASSERT_TRUE(back);
-    const ArchivedObject got = back->value<ArchivedObject>();
-    EXPECT_EQ(got.classes, QStringList({ "Thing", "NSObject" }));
-    EXPECT_FALSE(got.fields.value("missing").isValid());
-    EXPECT_EQ(got.fields.value("when").toDateTime(), obj.fields.value("when").toDateTime());
-    EXPECT_EQ(got.fields.value("list"), obj.fields.value("list"));
-}
-
 TEST(KeyedArchive, DamagedArchivesAreRejectedNotFollowed)
 {
     const auto archiveOf = [](const QVariantList& objects, quint64 root = 1) {
