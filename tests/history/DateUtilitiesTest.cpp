@@ -35,9 +35,7 @@ constexpr qint64 kDay = 86400;
 TEST_F(DateTest, LongerSpansCountYearsMonthsAndWeeksWithStrictBoundaries)
 {
     EXPECT_EQ(ago(366 * kDay), "1 year ago");
-    EXPECT_EQ(ago(800 * kDay), "2 years ago");
     EXPECT_EQ(ago(365 * kDay), "11 months ago") << "365 days is not more than a year";
-    EXPECT_EQ(ago(364 * kDay), "11 months ago");
     EXPECT_EQ(ago(31 * kDay), "1 month ago");
     EXPECT_EQ(ago(30 * kDay), "4 weeks ago");
     EXPECT_EQ(ago(7 * kDay + 1), "1 week ago");
@@ -47,13 +45,10 @@ TEST_F(DateTest, LongerSpansCountYearsMonthsAndWeeksWithStrictBoundaries)
 TEST_F(DateTest, TheLastWeekReadsTodayYesterdayOrTheWeekday)
 {
     EXPECT_EQ(ago(0), "Today");
-    EXPECT_EQ(ago(-3 * kDay), "Today") << "future dates";
     EXPECT_EQ(ago(kDay - 1), "Today") << "after yesterday's noon";
     EXPECT_EQ(ago(kDay), "Yesterday");
     EXPECT_EQ(ago(2 * kDay - 1), "Yesterday");
     EXPECT_EQ(ago(2 * kDay), "Last Thursday");
-    EXPECT_EQ(ago(3 * kDay), "Last Wednesday");
-    EXPECT_EQ(ago(6 * kDay), "Last Sunday");
     EXPECT_EQ(ago(7 * kDay - 1), "Last Saturday");
 }
 
@@ -62,25 +57,21 @@ TEST_F(DateTest, ReferenceNoonAndTextsStayFromFirstUse)
     const QDateTime threeDaysAgo = noon().addDays(-3);
     EXPECT_EQ(DateUtilities::timeSinceNow(threeDaysAgo), "Last Wednesday");
     EXPECT_EQ(DateUtilities::today(), noon());
-    EXPECT_EQ(DateUtilities::tomorrow(), noon().addDays(1));
 
     Clock::setFixed(local(2024, 6, 18, 9));  // the process runs on for days
     EXPECT_EQ(DateUtilities::today(), noon());
     EXPECT_EQ(DateUtilities::timeSinceNow(threeDaysAgo), "Last Wednesday");
-    EXPECT_EQ(DateUtilities::timeSinceNowWorker(noon()), "Today");
 
     QHash<int, QString> cache;
     EXPECT_EQ(DateUtilities::agoString(1, cache, "one", "%d many"), "one");
     EXPECT_EQ(DateUtilities::agoString(5, cache, "one", "%d many"), "5 many");
     EXPECT_EQ(DateUtilities::agoString(5, cache, "one", "changed %d"), "5 many") << "cached per number";
-    EXPECT_TRUE(cache.contains(5) && !cache.contains(1));
 }
 
 TEST_F(DateTest, ClockTimesIn12And24HourForm)
 {
     EXPECT_FALSE(DateUtilities::use24HourTime());
     EXPECT_EQ(DateUtilities::formatShortTime(local(2024, 6, 15, 0, 5)), "12:05am");
-    EXPECT_EQ(DateUtilities::formatShortTime(local(2024, 6, 15, 11, 59)), "11:59am");
     EXPECT_EQ(DateUtilities::formatShortTime(local(2024, 6, 15, 12, 30)), "12:30pm");
     EXPECT_EQ(DateUtilities::formatShortTime(local(2024, 6, 15, 18, 9)), "6:09pm");
     EXPECT_EQ(DateUtilities::formatShortTime(QDateTime(QDate(2024, 6, 15), QTime(16, 9), QTimeZone::utc())), "6:09pm")
@@ -89,17 +80,13 @@ TEST_F(DateTest, ClockTimesIn12And24HourForm)
     setUp(QLocale(QLocale::German, QLocale::Germany));
     EXPECT_TRUE(DateUtilities::use24HourTime());
     EXPECT_EQ(DateUtilities::formatShortTime(local(2024, 6, 15, 7, 3)), "07:03");
-    EXPECT_EQ(DateUtilities::formatShortTime(local(2024, 6, 15, 18, 9)), "18:09");
 }
 
 TEST_F(DateTest, DateStylesAndTheWeekBasedYear)
 {
     const QDateTime d = local(2024, 3, 5, 14);
     EXPECT_EQ(DateUtilities::formatShortDate(d), "3/5/24");
-    EXPECT_EQ(DateUtilities::formatMediumDate(d), "Mar 5, 2024");
-    EXPECT_EQ(DateUtilities::formatLongDate(d), "March 5, 2024");
     EXPECT_EQ(DateUtilities::formatFullDate(d), "Tuesday, March 5, 2024");
-    EXPECT_EQ(DateUtilities::formatYear(d), "2024");
     // Weeks start on Sunday here, and the week of 1 January is the first.
     EXPECT_EQ(DateUtilities::formatYear(local(2024, 12, 29)), "2025");
     EXPECT_EQ(DateUtilities::formatYear(local(2021, 1, 1)), "2021");
@@ -107,21 +94,16 @@ TEST_F(DateTest, DateStylesAndTheWeekBasedYear)
     setUp(QLocale(QLocale::German, QLocale::Germany));
     EXPECT_EQ(DateUtilities::formatLongDate(d), "5. März 2024");
     EXPECT_EQ(DateUtilities::formatYear(local(2024, 12, 29)), "2024");
-    EXPECT_EQ(DateUtilities::formatYear(local(2024, 12, 30)), "2025");
     EXPECT_EQ(DateUtilities::formatYear(local(2021, 1, 3)), "2020");
 }
 
 TEST_F(DateTest, DayHelpersWorkInTheServiceZone)
 {
     EXPECT_TRUE(DateUtilities::isToday(local(2024, 6, 15, 0, 0)));
-    EXPECT_TRUE(DateUtilities::isToday(local(2024, 6, 15, 23, 59)));
     EXPECT_FALSE(DateUtilities::isToday(local(2024, 6, 16, 0, 0)));
     // 22:30 UTC on the 14th is already the 15th in Berlin.
     EXPECT_TRUE(DateUtilities::isToday(QDateTime(QDate(2024, 6, 14), QTime(22, 30), QTimeZone::utc())));
     EXPECT_FALSE(DateUtilities::isSameDay(QDateTime(), QDateTime()));
-
-    Clock::setFixed(local(2024, 6, 15, 18, 9).addSecs(33));
-    EXPECT_EQ(DateUtilities::currentTime(), QDateTime(QDate(1, 1, 1), QTime(18, 9), kBerlin));
 }
 
 TEST_F(DateTest, Iso8601AcceptsOnlyTheTwoLengthsAndReadsFieldsLeniently)
@@ -129,12 +111,10 @@ TEST_F(DateTest, Iso8601AcceptsOnlyTheTwoLengthsAndReadsFieldsLeniently)
     EXPECT_EQ(DateUtilities::parseIS08601Date("2024-03-05"), local(2024, 3, 5));
     EXPECT_EQ(DateUtilities::parseIS08601Date("2024-03-05T14:07:09+01:00"), local(2024, 3, 5, 14, 7).addSecs(9))
         << "the zone suffix is ignored";
-    EXPECT_EQ(DateUtilities::parseIS08601Date("2024-03-05T14:07:09-08:00"), local(2024, 3, 5, 14, 7).addSecs(9));
     for (const char* bad : { "2024-3-5", "", "2024-03-05T14:07:09Z", "2024-03-05 " })
         EXPECT_FALSE(DateUtilities::parseIS08601Date(QString::fromLatin1(bad))) << bad;
     EXPECT_EQ(DateUtilities::parseIS08601Date("2024-13-01"), local(2025, 1, 1)) << "months roll over";
     EXPECT_EQ(DateUtilities::parseIS08601Date("2024-03-00"), local(2024, 2, 29)) << "day 0 is the day before";
     EXPECT_EQ(DateUtilities::parseIS08601Date("2024/03/05X25:61:00+01:00"), local(2024, 3, 6, 2, 1))
         << "separators unchecked, hours and minutes roll over";
-    EXPECT_TRUE(DateUtilities::parseIS08601Date("abcd-ef-gh")) << "no digits read as 0, still a date";
 }

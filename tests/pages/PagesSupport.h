@@ -4,6 +4,7 @@
 #include "FixturePack.h"
 
 #include "history/UserPaths.h"
+#include "model/Material.h"
 
 #include <QPageSize>
 #include <QPainter>
@@ -28,6 +29,22 @@ inline void writePdf(const QString& path, const QList<QSizeF>& pages, const QCol
         }
         painter.fillRect(QRectF(QPointF(0, 0), pages[i]), i == 0 ? colour : QColor(Qt::blue));
     }
+}
+
+// An isolation-map row: small-spill figures and, if given, large-spill ones,
+// each as metric/imperial isolation, day and night distances.
+inline IsolationRecord record(const QString& condition, const QStringList& small, const QStringList& large = {})
+{
+    static const char* what[] = { "Initial isolation distance Metric", "Initial isolation distance Imp", "Protect distance Day Metric",
+                                  "Protect distance Day Imp", "Protect distance Night Metric", "Protect distance Night Imp" };
+    IsolationRecord r;
+    r.insert(QStringLiteral("Condition"), condition);
+    for (int i = 0; i < 6; ++i) {
+        r.insert(QStringLiteral("Small Spill %1").arg(QLatin1String(what[i])), small.value(i));
+        if (!large.isEmpty())
+            r.insert(QStringLiteral("Large Spill %1").arg(QLatin1String(what[i])), large.value(i));
+    }
+    return r;
 }
 
 class UserDataDir {

@@ -1,11 +1,9 @@
 // Inputs the fuzzers found crashes with, each kept as it was found.
+#include "../history/HistoryTestSupport.h"
+
 #include "history/HistoryManager.h"
 #include "history/PropertyList.h"
-#include "history/UserPaths.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace qor;
@@ -25,22 +23,10 @@ TEST(FuzzFindings, HistoryKeysHoldingNulAreUnreadableNotACrash)
 {
     const QByteArray bytes = QByteArray::fromBase64(kDictWithArrayKey);
     EXPECT_FALSE(plist::parse(bytes));
-    // The same through the XML form, and an ordinary key still reads.
-    const QByteArray xml = "<?xml version=\"1.0\"?><plist version=\"1.0\"><array><dict><key>un&#0;Id</key><string>1005</string>"
-                           "</dict></array></plist>";
-    EXPECT_FALSE(plist::parse(xml));
-    EXPECT_EQ(plist::parse(QByteArray(xml).replace("&#0;", ""))->toList().value(0).toMap().value("unId"), "1005");
-
-    QTemporaryDir root;
-    UserPaths::setDataDir(root.path());
-    QDir().mkpath(root.path() + "/Library");
-    QFile f(root.path() + "/Library/viewedHistory.dat");
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-    f.close();
+    test::UserFolder user;
+    test::writeBytes(user.library("viewedHistory.dat"), bytes);
     HistoryManager manager;
     manager.loadHistory();
     EXPECT_TRUE(manager.viewedHistory().objects.isEmpty());
     EXPECT_TRUE(manager.keepsUnreadableFile());
-    UserPaths::setDataDir(QString());
 }

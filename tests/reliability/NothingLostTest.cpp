@@ -1,11 +1,11 @@
 // What the user stores survives failed writes and crashes; what the pack
 // holds cannot be written; the user's files are the owner's alone.
 #include "FixturePack.h"
+#include "../history/HistoryTestSupport.h"
 #include "../pages/PagesSupport.h"
 
 #include "history/HistoryManager.h"
 #include "history/PropertyList.h"
-#include "history/UserPaths.h"
 #include "model/QORModel.h"
 #include "model/Resources.h"
 #include "pages/PdfImages.h"
@@ -15,7 +15,6 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -28,25 +27,15 @@ using qor::test::ModelFixture;
 
 namespace {
 
-struct UserRoot {
-    QTemporaryDir dir;
-    UserRoot() { UserPaths::setDataDir(dir.path()); }
-    ~UserRoot() { UserPaths::setDataDir(QString()); }
-    QString historyFile() const { return dir.path() + "/Library/viewedHistory.dat"; }
-};
+using qor::test::readBytes;
 
-QByteArray readBytes(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
+struct UserRoot : qor::test::UserFolder {
+    QString historyFile() const { return root.path() + "/Library/viewedHistory.dat"; }
+};
 
 MaterialPtr material(const QString& unId, const QString& name)
 {
-    auto m = std::make_shared<Material>();
-    m->unId = unId;
-    m->name = name;
-    return m;
+    return qor::test::makeMaterial(unId, name);
 }
 
 QStringList savedIds(const QString& file)
@@ -123,7 +112,7 @@ TEST(NothingLost, AHistoryWriteThatFailsHalfwayLeavesThePreviousFile)
             EXPECT_FALSE(manager.saveHistory());
         }
         EXPECT_EQ(readBytes(user.historyFile()), before);
-        EXPECT_EQ(QDir(user.dir.path() + "/Library").entryList(QDir::Files | QDir::Hidden),
+        EXPECT_EQ(QDir(user.root.path() + "/Library").entryList(QDir::Files | QDir::Hidden),
                   QStringList{ "viewedHistory.dat" })
             << "the half-written file is not left behind";
 
@@ -166,11 +155,7 @@ TEST(NothingLost, AnUnreadableHistoryIsSetAsideBeforeAnythingIsWritten)
 {
     UserRoot user;
     const QByteArray cut = plist::serialize(QVariantList{ QVariantMap{ { "unId", "1005" } } })->chopped(3);
-    QDir().mkpath(user.dir.path() + "/Library");
-    QFile f(user.historyFile());
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(cut);
-    f.close();
+    qor::test::writeBytes(user.library("viewedHistory.dat"), cut);
 
     HistoryManager manager;
     manager.loadHistory();
@@ -228,12 +213,12 @@ TEST(OwnerOnly, UserFoldersAndFilesAreTheOwnersAloneWhateverTheUmask)
     ::umask(oldMask);
 
     QStringList checked;
-    QDirIterator it(user.dir.path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    QDirIterator it(user.root.path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QString path = it.next();
         const mode_t want = QFileInfo(path).isDir() ? 0700 : 0600;
         EXPECT_EQ(modeOf(path), want) << path.toStdString();
-        checked << QDir(user.dir.path()).relativeFilePath(path);
+        checked << QDir(user.root.path()).relativeFilePath(path);
     }
     EXPECT_TRUE(checked.contains("Library/viewedHistory.dat"));
     EXPECT_TRUE(checked.contains("Caches/__PDF_CACHE__")) << checked.join(' ').toStdString();
