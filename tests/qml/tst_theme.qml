@@ -74,7 +74,6 @@ TestCase {
         keyClick(Qt.Key_D, Qt.ControlModifier | Qt.ShiftModifier)
         compare(QorTheme.dark, !before)
         verify(!Qt.colorEqual(win.color, page), "the content recolours")
-        verify(Qt.colorEqual(win.color, QorTheme.pageBackground))
         keyClick(Qt.Key_D, Qt.ControlModifier | Qt.ShiftModifier)
         compare(QorTheme.dark, before)
         QorTheme.choice = "system"
@@ -86,13 +85,10 @@ TestCase {
         var controller = list.controller
         tryVerify(function() { return controller.sectionIndex.length > 0 })
         var index = findChild(list, "sideIndex")
-        verify(index)
         verify(index.width >= 44)
         var capacity = Math.floor(index.height / index.entryHeight)
         verify(index.entries.length <= capacity)
         verify(controller.sectionIndex.length > capacity, controller.sectionIndex.length + " keys, room for " + capacity)
-        compare(index.entries[1].label, "•")
-        compare(index.entries[0].label, controller.sectionIndex[0].trim().substring(0, 4))
 
         // It ends above the tab bar.
         var tabBar = findChild(win, "tabBar")
