@@ -2,35 +2,19 @@ import QtQuick
 import QtQuick.Controls
 import QtTest
 import QOR
-import QorTest
 
-TestCase {
+ShellTestCase {
     id: test
     name: "Detail"
-    when: windowShown
-    property var win
-
-    Component { id: mainComponent; Main {} }
-
-    function initTestCase() {
-        win = mainComponent.createObject(null)
-        verify(win)
-        verify(ModelChecks.attachAll(win) >= 4, "the shell's list models are watched")
-        AppDelegate.currentTab = AppDelegate.MaterialsTab
-    }
-    function cleanupTestCase() { win.destroy() }
 
     function list() { return win.materialList }
     function stack() { return list().StackView.view }
 
-    // Qt's item-model tester watches every list model on screen.
-    function init() { ModelChecks.attachAll(win) }
-    function cleanup() {
-        ModelChecks.attachAll(win)
+    function setUpWindow() { AppDelegate.currentTab = AppDelegate.MaterialsTab }
+    function reset() {
         list().endSearch()
         stack().pop(null, StackView.Immediate)
         AppDelegate.currentTab = AppDelegate.MaterialsTab
-        compare(ModelChecks.takeFailures(), "", "item model faults")
     }
 
     function openMaterial(unId) {

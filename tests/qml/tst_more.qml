@@ -2,32 +2,16 @@ import QtQuick
 import QtQuick.Controls
 import QtTest
 import QOR
-import QorTest
 
 // The placards, reference, history and About screens inside the real shell.
-TestCase {
+ShellTestCase {
     id: test
     name: "MoreScreens"
-    when: windowShown
-    property var win
-
-    Component { id: mainComponent; Main {} }
-
-    function initTestCase() {
-        win = mainComponent.createObject(null)
-        verify(win)
-        verify(ModelChecks.attachAll(win) >= 4, "the shell's list models are watched")
-    }
-    function cleanupTestCase() { win.destroy() }
 
     function referenceStack() { return win.referencePage.StackView.view }
-    // Qt's item-model tester watches every list model on screen.
-    function init() { ModelChecks.attachAll(win) }
-    function cleanup() {
-        ModelChecks.attachAll(win)
+    function reset() {
         referenceStack().pop(null, StackView.Immediate)
         win.historyPage.StackView.view.pop(null, StackView.Immediate)
-        compare(ModelChecks.takeFailures(), "", "item model faults")
     }
 
     function test_placardsNameNoGuide() {

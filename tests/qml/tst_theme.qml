@@ -2,36 +2,21 @@ import QtQuick
 import QtQuick.Controls
 import QtTest
 import QOR
-import QorTest
 
 // Legibility of the bars, the appearance shortcut, and a side index that fits.
-TestCase {
+ShellTestCase {
     id: test
     name: "Theme"
-    when: windowShown
-    property var win
+    windowProperties: ({ width: 420, height: 560 })
 
-    Component { id: mainComponent; Main {} }
-
-    function initTestCase() {
+    function setUpWindow() {
         QorTheme.choice = "system"
-        win = mainComponent.createObject(null, { width: 420, height: 560 })
-        verify(win)
-        verify(ModelChecks.attachAll(win) >= 4, "the shell's list models are watched")
         AppDelegate.currentTab = AppDelegate.MaterialsTab
     }
-
     function cleanupTestCase() {
         QorTheme.choice = "system"
         AppDelegate.showAllMaterialsWithSort(0)
         win.destroy()
-    }
-
-    // Qt's item-model tester watches every list model on screen.
-    function init() { ModelChecks.attachAll(win) }
-    function cleanup() {
-        ModelChecks.attachAll(win)
-        compare(ModelChecks.takeFailures(), "", "item model faults")
     }
 
     function luminance(c) {

@@ -2,35 +2,18 @@ import QtQuick
 import QtQuick.Controls
 import QtTest
 import QOR
-import QorTest
 
 // The wide layout: the detail area beside the list.
-TestCase {
+ShellTestCase {
     id: test
     name: "WideLayout"
-    when: windowShown
-    property var win
+    windowProperties: ({ width: 1280, height: 800 })
 
-    Component { id: mainComponent; Main {} }
-
-    function initTestCase() {
-        AppDelegate.setFormFactorOverride("tablet")
-        win = mainComponent.createObject(null, { width: 1280, height: 800 })
-        verify(win)
-        verify(ModelChecks.attachAll(win) >= 4, "the shell's list models are watched")
-        verify(AppDelegate.tablet)
-    }
+    function setUpWindow() { AppDelegate.setFormFactorOverride("tablet") }
     function cleanupTestCase() {
         AppDelegate.clearDetail()
         win.destroy()
         AppDelegate.setFormFactorOverride("phone")
-    }
-
-    // Qt's item-model tester watches every list model on screen.
-    function init() { ModelChecks.attachAll(win) }
-    function cleanup() {
-        ModelChecks.attachAll(win)
-        compare(ModelChecks.takeFailures(), "", "item model faults")
     }
 
     // An info page chosen on a wide window shows in the detail area, is made
