@@ -16,6 +16,17 @@ TestCase {
     function setUpWindow() {}
     function reset() {}
 
+    // The rows of a detail page, and the index of the first of `kind` (and `key`).
+    function rowsOf(page) {
+        var rows = []
+        for (var i = 0; i < page.controller.rowModel.count; ++i)
+            rows.push(page.controller.rowModel.get(i))
+        return rows
+    }
+    function indexOfKind(page, kind, key) {
+        return rowsOf(page).findIndex(function(r) { return r.kind === kind && (key === undefined || r.key === key) })
+    }
+
     function initTestCase() {
         setUpWindow()
         win = mainComponent.createObject(null, windowProperties)

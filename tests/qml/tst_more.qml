@@ -50,14 +50,6 @@ ShellTestCase {
         tryCompare(button.sheet, "visible", false)
     }
 
-    function test_historyStartsOnRecent() {
-        AppDelegate.currentTab = AppDelegate.HistoryTab
-        var page = win.historyPage
-        compare(page.controller.segment, 1)
-        page.controller.clearHistory()
-        compare(page.clearButton.enabled, false, "nothing left to clear")
-    }
-
     function test_aboutShowsThePack() {
         AppDelegate.currentTab = AppDelegate.AboutTab
         tryCompare(win.aboutPage.controller, "checksumState", AboutController.Verified)

@@ -42,16 +42,6 @@ ShellTestCase {
 
     function detailPage() { return findChild(win.contentItem, "materialDetail") }
 
-    function indexOfKind(page, kind, key) {
-        var model = page.controller.rowModel
-        for (var i = 0; i < model.count; ++i) {
-            var row = model.get(i)
-            if (row.kind === kind && (key === undefined || row.key === key))
-                return i
-        }
-        return -1
-    }
-
     // The page a shipping row opens, through the first entry's own page when
     // the material has several; taken off the stack again.
     function openedByShippingRow(page, key) {
@@ -152,16 +142,6 @@ ShellTestCase {
         compare(kindAt(shipping, shipping.currentIndex), DetailRowModel.Npg, "Ctrl+3 goes to the protection rows")
         keyClick(Qt.Key_1, Qt.ControlModifier)
         verify(summary.activeFocus)
-
-        // The sheet lists the list's keys and the detail's side by side.
-        win.showShortcuts()
-        var sheet = findChild(win, "shortcutSheet")
-        tryCompare(sheet, "opened", true)
-        var keys = sheet.shortcuts.map(function(s) { return s.keys })
-        verify(keys.indexOf("Type, Ctrl+F or /") >= 0 && keys.indexOf("U") >= 0, keys.join(" | "))
-        keyClick(Qt.Key_Escape)
-        tryCompare(sheet, "visible", false)
-        verify(AppDelegate.detailMaterial.valid, "Esc closed the sheet only")
 
         // Enter on the guide row opens the guide, as a tap does.
         while (kindAt(summary, summary.currentIndex) !== DetailRowModel.Guide)
