@@ -31,6 +31,8 @@ TestCase {
         setUpWindow()
         win = mainComponent.createObject(null, windowProperties)
         verify(win)
+        win.requestActivate()
+        tryVerify(function() { return win.active })
         verify(ModelChecks.attachAll(win) >= 4, "the shell's list models are watched")
     }
     function cleanupTestCase() { win.destroy() }

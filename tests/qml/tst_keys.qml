@@ -4,25 +4,13 @@ import QtTest
 import QOR
 
 // Every path through the phone layout with the keyboard alone: no mouse event here.
-TestCase {
+ShellTestCase {
     id: test
     name: "Keyboard"
-    when: windowShown
-    property var win
+    windowProperties: ({ width: 420, height: 780 })
 
-    Component { id: mainComponent; Main {} }
-
-    function initTestCase() {
-        win = mainComponent.createObject(null, { width: 420, height: 780 })
-        verify(win)
-        win.requestActivate()
-        tryVerify(function() { return win.active })
-        AppDelegate.currentTab = AppDelegate.MaterialsTab
-    }
-    function cleanupTestCase() {
-        win.destroy()
-    }
-    function cleanup() {
+    function setUpWindow() { AppDelegate.currentTab = AppDelegate.MaterialsTab }
+    function reset() {
         AppDelegate.setFullscreen(false)
         win.materialList.endSearch()
         for (var i = 0; i < 6; ++i) {

@@ -55,7 +55,6 @@ ShellTestCase {
     function test_shortcutSwitchesAppearance() {
         var before = QorTheme.dark
         var page = win.color.toString()
-        win.requestActivate()
         keyClick(Qt.Key_D, Qt.ControlModifier | Qt.ShiftModifier)
         compare(QorTheme.dark, !before)
         verify(!Qt.colorEqual(win.color, page), "the content recolours")
