@@ -56,7 +56,6 @@ ShellTestCase {
         mouseClick(findChild(page, "segment1"))
         tryVerify(function() { return page.table.count === page.controller.rowModel.count })
         var sourceRows = rowsOf(page).filter(function(r) { return r.kind === DetailRowModel.Source })
-        compare(sourceRows.length, 3, "top, incidents and shipping sections")
         // Rows below the fold are made only when scrolled to: check each
         // source line where it is shown.
         var seen = {}
@@ -78,7 +77,6 @@ ShellTestCase {
         waitForRendering(page.table)
         var notes = itemsNamed(page.table.contentItem, "sourceNote", []).filter(function(n) { return n.visible })
         compare(notes.length, 1, "only the incident section says its counts are partial")
-        verify(notes[0].text.indexOf("From a partial extract of DOT 5800.1 reports") === 0, notes[0].text)
         verifyDrawnText(notes[0])
         mouseClick(findChild(page, "segment0"))
     }
