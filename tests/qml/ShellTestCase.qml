@@ -1,0 +1,45 @@
+import QtQuick
+import QtTest
+import QOR
+import QorTest
+
+// A test case on the real shell: one window for all its tests, and Qt's
+// item-model tester on every list model the screens make.
+TestCase {
+    when: windowShown
+    property var win
+    property var windowProperties: ({})
+
+    Component { id: mainComponent; Main {} }
+
+    // Hooks for the cases: before the window is made, and after each test.
+    function setUpWindow() {}
+    function reset() {}
+
+    // The rows of a detail page, and the index of the first of `kind` (and `key`).
+    function rowsOf(page) {
+        var rows = []
+        for (var i = 0; i < page.controller.rowModel.count; ++i)
+            rows.push(page.controller.rowModel.get(i))
+        return rows
+    }
+    function indexOfKind(page, kind, key) {
+        return rowsOf(page).findIndex(function(r) { return r.kind === kind && (key === undefined || r.key === key) })
+    }
+
+    function initTestCase() {
+        setUpWindow()
+        win = mainComponent.createObject(null, windowProperties)
+        verify(win)
+        win.requestActivate()
+        tryVerify(function() { return win.active })
+        verify(ModelChecks.attachAll(win) >= 4, "the shell's list models are watched")
+    }
+    function cleanupTestCase() { win.destroy() }
+    function init() { ModelChecks.attachAll(win) }
+    function cleanup() {
+        ModelChecks.attachAll(win)
+        reset()
+        compare(ModelChecks.takeFailures(), "", "item model faults")
+    }
+}
