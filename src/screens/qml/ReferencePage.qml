@@ -65,6 +65,8 @@ Page {
         clip: true
         model: reference
         keyNavigationEnabled: true
+        // The launch screen: rows below the fold are made when scrolled to, not before the first frame.
+        cacheBuffer: 0
         header: Label {
             width: ListView.view.width
             text: PackStatus.notice
