@@ -124,6 +124,10 @@ ShellTestCase {
         compare(guide.controller.textFontSize, 130, "never above 130")
         keyClick(Qt.Key_Minus, Qt.ControlModifier)
         compare(guide.controller.textFontSize, 125)
+        guide.controller.sliderChanged(68)
+        keyClick(Qt.Key_Minus, Qt.ControlModifier)
+        keyClick(Qt.Key_Minus, Qt.ControlModifier)
+        compare(guide.controller.textFontSize, 65, "never below 65")
         guide.controller.sliderChanged(100)
         // Then back: Esc leaves the guide.
         keyClick(Qt.Key_Escape)

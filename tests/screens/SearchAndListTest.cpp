@@ -6,6 +6,8 @@
 #include "model/MaterialSearch.h"
 #include "model/QORModel.h"
 
+#include <QSignalSpy>
+#include <QTest>
 #include <gtest/gtest.h>
 
 using namespace qor;
@@ -99,6 +101,19 @@ TEST_F(ListControllerTest, RankingWeightsViewedMaterialsAndNameOrder)
     list = { zirconium, xenon };
     viewed.rank(list);
     EXPECT_EQ(names(list), QStringList({ "Xenon", "Zirconium Scrap" }));
+}
+
+TEST_F(ListControllerTest, QuickKeystrokesRunOneSearch)
+{
+    MaterialListController list;
+    QSignalSpy rebuilt(&list, &MaterialListController::listChanged);
+    for (const char* typed : { "c", "ch", "chl" })
+        list.setSearchText(QString::fromLatin1(typed));
+    EXPECT_EQ(rebuilt.count(), 0) << "no search while the keys are still coming";
+    ASSERT_TRUE(rebuilt.wait(2000));
+    QTest::qWait(3 * MaterialListController::kSearchDelayMs);
+    EXPECT_EQ(rebuilt.count(), 1) << "one search, for the last text";
+    EXPECT_EQ(list.title(), "1 search results");
 }
 
 TEST_F(ListControllerTest, SectionsTitlesAndScrollTargets)
