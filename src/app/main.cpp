@@ -149,6 +149,9 @@ std::unique_ptr<QObject> createMainWindow(QQmlEngine& engine, const QVariantMap&
     if (!window)
         for (const QQmlError& error : component.errors())
             qWarning().noquote() << error.toString();
+    // As under the application engine, the window drives asynchronous loading.
+    if (auto* quickWindow = qobject_cast<QQuickWindow*>(window.get()); quickWindow && !engine.incubationController())
+        engine.setIncubationController(quickWindow->incubationController());
     return window;
 }
 
