@@ -62,6 +62,20 @@ static void BM_FirstFrameEmptyWindow(benchmark::State& state)
 }
 BENCHMARK(BM_FirstFrameEmptyWindow)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(10);
 
+// What any QML window pays before the app's own screens: one line of text,
+// then the controls' style with one label.
+static void BM_FirstFrameQmlOneText(benchmark::State& state)
+{
+    runToFirstFrame(state, { QStringLiteral("--window-qml"), QStringLiteral(QOR_SOURCE_DIR "/bench/startup/one-text.qml") });
+}
+BENCHMARK(BM_FirstFrameQmlOneText)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(10);
+
+static void BM_FirstFrameControlsOneLabel(benchmark::State& state)
+{
+    runToFirstFrame(state, { QStringLiteral("--window-qml"), QStringLiteral(QOR_SOURCE_DIR "/bench/startup/controls-label.qml") });
+}
+BENCHMARK(BM_FirstFrameControlsOneLabel)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(10);
+
 static void BM_FirstFrameApp(benchmark::State& state)
 {
     runToFirstFrame(state, { QStringLiteral("--exit-after-first-frame"), QStringLiteral("--form-factor=phone") });

@@ -136,15 +136,15 @@ bool quitsFromEveryScreen(const QStringList& screens, const QStringList& passOn)
     return ok;
 }
 
-// The window of Main.qml, or null after printing why not. A plain engine
+// The window of a QML file (the app's is Main.qml), or null after printing why not. A plain engine
 // rather than the application engine: that one puts a file selector in front
 // of every QML file and image it loads, which looks for "+selector" folders
 // QOR has none of, at about a twelfth of the work before the first frame.
-std::unique_ptr<QObject> createMainWindow(QQmlEngine& engine, const QVariantMap& properties = {})
+std::unique_ptr<QObject> createWindow(QQmlEngine& engine, const QUrl& qml, const QVariantMap& properties = {})
 {
     QObject::connect(&engine, &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     QObject::connect(&engine, &QQmlEngine::exit, qApp, &QCoreApplication::exit, Qt::QueuedConnection);
-    QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/QOR/Main.qml")));
+    QQmlComponent component(&engine, qml);
     std::unique_ptr<QObject> window(component.isReady() ? component.createWithInitialProperties(properties) : nullptr);
     if (!window)
         for (const QQmlError& error : component.errors())
@@ -154,6 +154,8 @@ std::unique_ptr<QObject> createMainWindow(QQmlEngine& engine, const QVariantMap&
         engine.setIncubationController(quickWindow->incubationController());
     return window;
 }
+
+const QUrl kMainQml(QStringLiteral("qrc:/QOR/Main.qml"));
 
 // For the start-up benchmark: says "first frame" on stdout the moment the
 // window's first frame is on screen, so the time is read there and not after
@@ -174,7 +176,7 @@ int runSelfTest(QQmlEngine& engine, QGuiApplication& app, const QStringList& pas
 {
     qInstallMessageHandler(recordQmlErrors);
     QORModel::sharedInstance()->loadData();
-    const std::unique_ptr<QObject> window = createMainWindow(engine);
+    const std::unique_ptr<QObject> window = createWindow(engine, kMainQml);
     if (!window)
         return 1;
     QObject* root = window.get();
@@ -259,6 +261,7 @@ int main(int argc, char** argv)
     // optionally showing an empty window instead of the app.
     QCommandLineOption firstFrame(QStringLiteral("exit-after-first-frame"), QStringLiteral("Quit after the first frame."));
     QCommandLineOption emptyWindow(QStringLiteral("empty-window"), QStringLiteral("Show an empty window (start-up baseline)."));
+    QCommandLineOption windowQml(QStringLiteral("window-qml"), QStringLiteral("Show the window of QML file FILE instead (start-up floor)."), QStringLiteral("FILE"));
     // Reaching the detail screens for screenshots.
     QCommandLineOption sortOrder(QStringLiteral("sort"), QStringLiteral("Show the material list in sort order N (0 name ... 3 guide)."), QStringLiteral("N"));
     QCommandLineOption detailTab(QStringLiteral("detail-tab"), QStringLiteral("Show tab N of the material opened by a link."), QStringLiteral("N"));
@@ -269,8 +272,9 @@ int main(int argc, char** argv)
     quitFrom.setFlags(QCommandLineOption::HiddenFromHelp);
     firstFrame.setFlags(QCommandLineOption::HiddenFromHelp);
     emptyWindow.setFlags(QCommandLineOption::HiddenFromHelp);
+    windowQml.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOptions({ version, resources, dataDir, openTab, openPlacards, lang, formFactor, selfTest, screenshot, screenshotDelay,
-                        size, firstFrame, emptyWindow, detailTab, openScreen, appearance, quitFrom, sortOrder, shortcutSheet });
+                        size, firstFrame, emptyWindow, windowQml, detailTab, openScreen, appearance, quitFrom, sortOrder, shortcutSheet });
     parser.addPositionalArgument(QStringLiteral("links"), QStringLiteral("qor://search?q=TEXT or qor://chemical?un=NUMBER"), QStringLiteral("[links...]"));
     parser.process(app);
 
@@ -301,6 +305,14 @@ int main(int argc, char** argv)
     engine.addImageProvider(QString::fromLatin1(PdfImageProvider::kProviderId), new PdfImageProvider);
     if (parser.isSet(selfTest))
         return runSelfTest(engine, app, parser.isSet(resources) ? QStringList{ "--resources", parser.value(resources) } : QStringList());
+    if (parser.isSet(windowQml)) {
+        const std::unique_ptr<QObject> root = createWindow(engine, QUrl::fromLocalFile(parser.value(windowQml)));
+        auto* window = qobject_cast<QQuickWindow*>(root.get());
+        if (!window)
+            return 1;
+        quitAfterFirstFrame(window);
+        return app.exec();
+    }
     if (parser.isSet(emptyWindow)) {
         QQuickWindow empty;
         empty.resize(420, 780);
@@ -339,7 +351,7 @@ int main(int argc, char** argv)
 
 
     // The launch tab first, the other tabs once its first frame is shown.
-    const std::unique_ptr<QObject> root = createMainWindow(engine, { { QStringLiteral("deferTabs"), true } });
+    const std::unique_ptr<QObject> root = createWindow(engine, kMainQml, { { QStringLiteral("deferTabs"), true } });
     if (!root)
         return 1;
     auto* window = qobject_cast<QQuickWindow*>(root.get());
