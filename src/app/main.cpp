@@ -168,7 +168,8 @@ void quitAfterFirstFrame(QQuickWindow* window)
             fputs("first frame\n", stdout);
             fflush(stdout);
         }
-        QCoreApplication::quit();
+        // The signal may come from a render thread: the app quits on its own.
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     }, Qt::DirectConnection);
 }
 
