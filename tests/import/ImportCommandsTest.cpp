@@ -1,13 +1,14 @@
 // qor-cli import-ecfr / import-npg on the official files, in-process.
 #include "CliRun.h"
 
+#include "model/Sqlite.h"
+
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 using namespace qor;
 
@@ -21,14 +22,9 @@ using test::runCli;
 QStringList column(const QString& db, const QString& sql)
 {
     QStringList out;
-    sqlite3* h = nullptr;
-    sqlite3_stmt* st = nullptr;
-    if (sqlite3_open_v2(QFile::encodeName(db).constData(), &h, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK
-        && sqlite3_prepare_v2(h, sql.toUtf8().constData(), -1, &st, nullptr) == SQLITE_OK)
-        while (sqlite3_step(st) == SQLITE_ROW)
-            out << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
-    sqlite3_finalize(st);
-    sqlite3_close(h);
+    const Database handle = Database::openReadOnly(db);
+    for (Statement st(handle, sql); st.step();)
+        out << st.text(0);
     return out;
 }
 

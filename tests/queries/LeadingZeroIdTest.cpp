@@ -4,8 +4,7 @@
 #include "QueriesFixture.h"
 
 #include "model/PackSchema.h"
-
-#include <sqlite3.h>
+#include "model/Sqlite.h"
 
 using namespace qor;
 
@@ -64,15 +63,9 @@ TEST_F(LeadingZeroIds, EveryUnquotedLookupFindsTheRow)
 TEST_F(LeadingZeroIds, IdColumnsReadBackWithTheirZerosAndLettersKept)
 {
     pack.sql("npg.db", "insert into hmt (un_id, name) values ('NA1993', 'Diesel fuel');");
-    sqlite3* db = nullptr;
-    ASSERT_EQ(sqlite3_open_v2(pack.path(QStringLiteral("npg.db")).toUtf8().constData(), &db, SQLITE_OPEN_READONLY, nullptr), SQLITE_OK);
-    sqlite3_stmt* st = nullptr;
-    const QByteArray sql = QStringLiteral("select %1 from hmt order by rowid").arg(packUnIdColumnText(QStringLiteral("un_id"))).toUtf8();
-    ASSERT_EQ(sqlite3_prepare_v2(db, sql.constData(), -1, &st, nullptr), SQLITE_OK);
+    const Database db = Database::openReadOnly(pack.path(QStringLiteral("npg.db")));
     QStringList ids;
-    while (sqlite3_step(st) == SQLITE_ROW)
-        ids << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
-    sqlite3_finalize(st);
-    sqlite3_close(db);
+    for (Statement st(db, QStringLiteral("select %1 from hmt order by rowid").arg(packUnIdColumnText(QStringLiteral("un_id")))); st.step();)
+        ids << st.text(0);
     EXPECT_EQ(ids, (QStringList{ "0004", "0004", "NA1993" }));
 }
