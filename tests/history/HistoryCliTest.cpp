@@ -46,28 +46,18 @@ struct HistoryCli : ::testing::Test {
 
 } // namespace
 
-TEST_F(HistoryCli, ViewsAreRecordedSavedAndListed)
+// Counting and ordering are the history's own (HistoryTest); here, that the
+// commands reach them and that a bad request leaves the file as it was.
+TEST_F(HistoryCli, ViewsListClearAndBadRequestsChangeNothing)
 {
-    EXPECT_EQ(run({ "history", "view", "1005" }), 0);
-    EXPECT_EQ(run({ "history", "view", "1005" }), 0);
-    EXPECT_EQ(run({ "history", "view", "chlorine" }), 0);
-
-    QJsonArray most;
-    ASSERT_EQ(run({ "--json", "history", "most-viewed" }, &most), 0);
-    ASSERT_EQ(most.size(), 2);
-    const QJsonObject first = most.at(0).toObject();
-    EXPECT_EQ(first.value("unId").toString(), "1005");
-    EXPECT_EQ(first.value("viewCount").toInt(), 2);
-
-}
-
-TEST_F(HistoryCli, ClearEmptiesTheFileAndBadRequestsChangeNothing)
-{
-    ASSERT_EQ(run({ "history", "view", "1017" }), 0);
+    ASSERT_EQ(run({ "history", "view", "chlorine" }), 0);
     EXPECT_EQ(run({ "history", "view", "9999" }), 1);
     EXPECT_EQ(run({ "history", "view" }), 2);
     EXPECT_EQ(run({ "history", "sideways" }), 2);
-    EXPECT_EQ(plist::parse(readBytes(user.library("viewedHistory.dat")))->toList().size(), 1);
+    QJsonArray most;
+    ASSERT_EQ(run({ "--json", "history", "most-viewed" }, &most), 0);
+    ASSERT_EQ(most.size(), 1);
+    EXPECT_EQ(most.at(0).toObject().value("unId").toString(), "1017");
 
     EXPECT_EQ(run({ "history", "clear" }), 0);
     EXPECT_EQ(plist::parse(readBytes(user.library("viewedHistory.dat")))->toList(), QVariantList());
