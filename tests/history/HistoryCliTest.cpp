@@ -1,11 +1,9 @@
 // qor-cli history, run in-process; each run starts like a new process.
-#include "Cli.h"
-#include "FixturePack.h"
+#include "CliRun.h"
 #include "HistoryTestSupport.h"
 
 #include "history/HistoryManager.h"
 #include "history/PropertyList.h"
-#include "model/QORModel.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -26,21 +24,14 @@ struct HistoryCli : ::testing::Test {
                             "AMMONIA SOLUTION^8^154^2672^^^" });
     }
 
-    int run(QStringList args, QJsonArray* json = nullptr)
+    int run(const QStringList& args, QJsonArray* json = nullptr)
     {
-        delete QORModel::sharedInstance(false);
         delete HistoryManager::sharedInstance(false);
-        QString out, err;
-        QTextStream o(&out), e(&err);
-        args.prepend(user.root.path());
-        args.prepend("--data-dir");
-        const int code = cli::run(args, o, e);
-        o.flush();
-        delete QORModel::sharedInstance(false);
+        const CliResult r = runCli(QStringList{ "--data-dir", user.root.path() } + args);
         delete HistoryManager::sharedInstance(false);
         if (json)
-            *json = QJsonDocument::fromJson(out.toUtf8()).array();
-        return code;
+            *json = r.json().array();
+        return r.code;
     }
 };
 
