@@ -7,7 +7,7 @@
 #include "model/QORModel.h"
 
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -86,12 +86,6 @@ QString official(const char* name)
     return QStringLiteral(QOR_SOURCE_DIR "/resources/official/erg2024/") + QLatin1String(name);
 }
 
-QString readAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
-}
-
 } // namespace
 
 // The text output's shape on the bundled pack; the figures themselves are
@@ -129,7 +123,7 @@ TEST(ErgCli, ImportWritesEveryTableOrNothing)
     r = runCli(QStringList{ QStringLiteral("import-erg") } + pdfs + QStringList{ QStringLiteral("--output"), out });
     ASSERT_EQ(r.code, 0) << r.err.toStdString();
     for (const char* file : { "chemicals_2024.csv", "iso_distances.sql", "large_spill_distances.sql", "table1.csv" })
-        EXPECT_FALSE(readAll(QDir(out).filePath(QLatin1String(file))).isEmpty()) << file;
+        EXPECT_GT(QFileInfo(QDir(out).filePath(QLatin1String(file))).size(), 0) << file;
 }
 
 TEST_F(Cli, MaterialAndListNameTheirSources)
