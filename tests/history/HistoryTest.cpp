@@ -88,15 +88,13 @@ TEST_F(HistoryTest, OrderingsLimitToTwelveAndBreakTiesByName)
     EXPECT_EQ(unIds(most).mid(0, 4), QStringList({ "1020", "1015", "1010", "1005" })) << "count 5, then by name";
 }
 
-TEST_F(HistoryTest, AlphabeticalOrderIsLiteralAndFollowsChanges)
+TEST_F(HistoryTest, AlphabeticalOrderIsLiteralAndFollowsAdditions)
 {
     manager.addToHistory(makeMaterial("1005", "b"));
     manager.addToHistory(makeMaterial("1006", "B"));
     EXPECT_EQ(unIds(history.allAlpha()), QStringList({ "1006", "1005" })) << "literal, case-sensitive";
     manager.addToHistory(makeMaterial("1007", "A"));
     EXPECT_EQ(history.allAlpha().size(), 3);
-    history.clearHistory();
-    EXPECT_TRUE(history.allAlpha().isEmpty());
 }
 
 TEST_F(HistoryTest, SavedHistoryReloadsExactly)
