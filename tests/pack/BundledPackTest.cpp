@@ -1,7 +1,6 @@
 // The bundled pack: it validates, and it holds what the app hard-codes
 // and what its screens are meant to show.
-#include "FixturePack.h"
-#include "PackValidator.h"
+#include "MiniPack.h"
 
 #include "model/PackManifest.h"
 #include "model/PackSchema.h"
@@ -63,10 +62,7 @@ protected:
 TEST(BundledPackValidation, IsCleanAndNamesItsSources)
 {
     const auto violations = cli::validatePack(bundledPack());
-    QStringList lines;
-    for (const auto& v : violations)
-        lines << v.toString();
-    EXPECT_TRUE(violations.isEmpty()) << lines.join(QLatin1Char('\n')).toStdString();
+    EXPECT_TRUE(violations.isEmpty()) << describe(violations).join(QLatin1Char('\n')).toStdString();
     const auto manifest = PackManifest::read(bundledPack());
     ASSERT_TRUE(manifest);
 
