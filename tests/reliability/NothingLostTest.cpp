@@ -137,14 +137,8 @@ TEST(NothingLostDeathTest, ViewsSavedWhenHiddenSurviveACrash)
             std::abort();
         },
         "");
+    // What the next start reads from it is HistoryTest's.
     EXPECT_EQ(savedIds(user.historyFile()), QStringList{ "1005" });
-
-    // The next start reads it back.
-    delete HistoryManager::sharedInstance(false);
-    ModelFixture fixture;
-    ASSERT_TRUE(HistoryManager::sharedInstance()->historyObjectForKey("1005"));
-    EXPECT_FALSE(HistoryManager::sharedInstance()->historyObjectForKey("1017"));
-    delete HistoryManager::sharedInstance(false);
 }
 
 TEST(NothingLost, AnUnreadableHistoryIsSetAsideBeforeAnythingIsWritten)
