@@ -7,7 +7,7 @@
 #include "model/QORModel.h"
 
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -36,26 +36,12 @@ struct Cli : ::testing::Test {
         pack.setGuides({ "124^Gases - Toxic and/or Corrosive - Oxidizing", "125^Gases - Corrosive" });
         pack.sql("npg.db",
                  "insert into iso_distances values ('1005','Land','30','100','0.1','0.1','0.2','0.1','','','','','','');"
-                 "insert into iso_distances values ('1005','Water','60','200','0.4','0.3','1.7','1.1','','','','','','');"
-                 "insert into iso_distances values ('1005','Land','90','300','0.5','0.3','1.9','1.2','','','','','','');"
                  "insert into dot_classes values ('1005','2.3');");
         pack.sql("hazmat_incidents.dat", "insert into incidents (un_id) values ('1005'),('1005');");
     }
 };
 
 } // namespace
-
-TEST_F(Cli, MaterialByNumberAsJson)
-{
-    const Result r = runCli({ "--json", "material", "1005" });
-    ASSERT_EQ(r.code, 0) << r.err.toStdString();
-    const QJsonArray array = r.json().array();
-    ASSERT_EQ(array.size(), 1);
-    const QJsonObject m = array.at(0).toObject();
-    EXPECT_EQ(m.value("numIncidents").toInt(), 2);
-    EXPECT_EQ(m.value("isolationConditions").toArray(), QJsonArray({ "Land", "Water" }));
-    EXPECT_EQ(m.value("isolationDistances").toObject().keys(), QStringList({ "Land", "Water" }));
-}
 
 TEST_F(Cli, MaterialByNameIgnoresCaseAndAcceptsApostrophes)
 {
@@ -100,36 +86,18 @@ QString official(const char* name)
     return QStringLiteral(QOR_SOURCE_DIR "/resources/official/erg2024/") + QLatin1String(name);
 }
 
-QString readAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
-}
-
 } // namespace
 
 // The text output's shape on the bundled pack; the figures themselves are
-// pinned by the importer tests and the detail goldens.
-TEST(ErgCli, BundledMaterialTextShowsEachConditionUnderItsOwnTitle)
+// pinned by the importer tests and the detail goldens, the order of the
+// conditions by the model's and the isolation table's tests.
+TEST(ErgCli, BundledMaterialTextShowsEachCondition)
 {
-    Result r = runCli({ "--resources", bundledPack(), "material", "1005" });
+    const Result r = runCli({ "--resources", bundledPack(), "material", "1005" });
     ASSERT_EQ(r.code, 0) << r.err.toStdString();
     EXPECT_TRUE(r.out.contains("Ammonia, Anhydrous  UN1005\n  Guide 125")) << r.out.toStdString();
     EXPECT_TRUE(r.out.contains("Small spill: isolate 30 m / 100 ft; protect day 0.1 km / 0.1 mi; night 0.2 km / 0.1 mi"));
     EXPECT_EQ(r.out.count("Large spill, "), 8) << "both names of UN1005 show the four containers";
-
-    // UN1953 under a zone name: its own zone first, each zone titled, no default block.
-    r = runCli({ "--resources", bundledPack(), "material", "1953" });
-    ASSERT_EQ(r.code, 0) << r.err.toStdString();
-    const QString zoneA = "(Inhalation Hazard Zone A)  UN1953\n";
-    const qsizetype a = r.out.indexOf(zoneA);
-    ASSERT_GE(a, 0) << r.out.toStdString();
-    const QString block = r.out.mid(a, r.out.indexOf("UN1953\n", a + zoneA.size()) - a);
-    const qsizetype own = block.indexOf("  Isolation (Inhalation Hazard Zone A)\n    Small spill: ");
-    EXPECT_GE(own, 0) << block.toStdString();
-    EXPECT_EQ(block.indexOf("  Isolation ("), own);
-    EXPECT_TRUE(block.contains("  Isolation (Inhalation Hazard Zone D)\n    Small spill: "));
-    EXPECT_FALSE(block.contains("Isolation (default)"));
 }
 
 TEST(ErgCli, ImportWritesEveryTableOrNothing)
@@ -155,7 +123,7 @@ TEST(ErgCli, ImportWritesEveryTableOrNothing)
     r = runCli(QStringList{ QStringLiteral("import-erg") } + pdfs + QStringList{ QStringLiteral("--output"), out });
     ASSERT_EQ(r.code, 0) << r.err.toStdString();
     for (const char* file : { "chemicals_2024.csv", "iso_distances.sql", "large_spill_distances.sql", "table1.csv" })
-        EXPECT_FALSE(readAll(QDir(out).filePath(QLatin1String(file))).isEmpty()) << file;
+        EXPECT_GT(QFileInfo(QDir(out).filePath(QLatin1String(file))).size(), 0) << file;
 }
 
 TEST_F(Cli, MaterialAndListNameTheirSources)

@@ -32,24 +32,20 @@ constexpr qint64 kDay = 86400;
 
 } // namespace
 
-TEST_F(DateTest, LongerSpansCountYearsMonthsAndWeeksWithStrictBoundaries)
+TEST_F(DateTest, AgoTextsCountFromTheReferenceNoonWithStrictBoundaries)
 {
-    EXPECT_EQ(ago(366 * kDay), "1 year ago");
-    EXPECT_EQ(ago(365 * kDay), "11 months ago") << "365 days is not more than a year";
-    EXPECT_EQ(ago(31 * kDay), "1 month ago");
-    EXPECT_EQ(ago(30 * kDay), "4 weeks ago");
-    EXPECT_EQ(ago(7 * kDay + 1), "1 week ago");
-    EXPECT_EQ(ago(7 * kDay), "Today") << "the week unit takes all seven days";
-}
-
-TEST_F(DateTest, TheLastWeekReadsTodayYesterdayOrTheWeekday)
-{
-    EXPECT_EQ(ago(0), "Today");
-    EXPECT_EQ(ago(kDay - 1), "Today") << "after yesterday's noon";
-    EXPECT_EQ(ago(kDay), "Yesterday");
-    EXPECT_EQ(ago(2 * kDay - 1), "Yesterday");
-    EXPECT_EQ(ago(2 * kDay), "Last Thursday");
-    EXPECT_EQ(ago(7 * kDay - 1), "Last Saturday");
+    const struct {
+        qint64 seconds;
+        const char* text;
+    } cases[] = {
+        { 366 * kDay, "1 year ago" }, { 365 * kDay, "11 months ago" },  // 365 days is not more than a year
+        { 31 * kDay, "1 month ago" }, { 30 * kDay, "4 weeks ago" }, { 7 * kDay + 1, "1 week ago" },
+        { 7 * kDay, "Today" },  // the week unit takes all seven days
+        { 0, "Today" }, { kDay - 1, "Today" },  // after yesterday's noon
+        { kDay, "Yesterday" }, { 2 * kDay - 1, "Yesterday" }, { 2 * kDay, "Last Thursday" }, { 7 * kDay - 1, "Last Saturday" },
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(ago(c.seconds), c.text) << c.seconds << " s before noon";
 }
 
 TEST_F(DateTest, ReferenceNoonAndTextsStayFromFirstUse)

@@ -1,11 +1,9 @@
 // qor-cli history, run in-process; each run starts like a new process.
-#include "Cli.h"
-#include "FixturePack.h"
+#include "CliRun.h"
 #include "HistoryTestSupport.h"
 
 #include "history/HistoryManager.h"
 #include "history/PropertyList.h"
-#include "model/QORModel.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -26,48 +24,31 @@ struct HistoryCli : ::testing::Test {
                             "AMMONIA SOLUTION^8^154^2672^^^" });
     }
 
-    int run(QStringList args, QJsonArray* json = nullptr)
+    int run(const QStringList& args, QJsonArray* json = nullptr)
     {
-        delete QORModel::sharedInstance(false);
         delete HistoryManager::sharedInstance(false);
-        QString out, err;
-        QTextStream o(&out), e(&err);
-        args.prepend(user.root.path());
-        args.prepend("--data-dir");
-        const int code = cli::run(args, o, e);
-        o.flush();
-        delete QORModel::sharedInstance(false);
+        const CliResult r = runCli(QStringList{ "--data-dir", user.root.path() } + args);
         delete HistoryManager::sharedInstance(false);
         if (json)
-            *json = QJsonDocument::fromJson(out.toUtf8()).array();
-        return code;
+            *json = r.json().array();
+        return r.code;
     }
 };
 
 } // namespace
 
-TEST_F(HistoryCli, ViewsAreRecordedSavedAndListed)
+// Counting and ordering are the history's own (HistoryTest); here, that the
+// commands reach them and that a bad request leaves the file as it was.
+TEST_F(HistoryCli, ViewsListClearAndBadRequestsChangeNothing)
 {
-    EXPECT_EQ(run({ "history", "view", "1005" }), 0);
-    EXPECT_EQ(run({ "history", "view", "1005" }), 0);
-    EXPECT_EQ(run({ "history", "view", "chlorine" }), 0);
-
-    QJsonArray most;
-    ASSERT_EQ(run({ "--json", "history", "most-viewed" }, &most), 0);
-    ASSERT_EQ(most.size(), 2);
-    const QJsonObject first = most.at(0).toObject();
-    EXPECT_EQ(first.value("unId").toString(), "1005");
-    EXPECT_EQ(first.value("viewCount").toInt(), 2);
-
-}
-
-TEST_F(HistoryCli, ClearEmptiesTheFileAndBadRequestsChangeNothing)
-{
-    ASSERT_EQ(run({ "history", "view", "1017" }), 0);
+    ASSERT_EQ(run({ "history", "view", "chlorine" }), 0);
     EXPECT_EQ(run({ "history", "view", "9999" }), 1);
     EXPECT_EQ(run({ "history", "view" }), 2);
     EXPECT_EQ(run({ "history", "sideways" }), 2);
-    EXPECT_EQ(plist::parse(readBytes(user.library("viewedHistory.dat")))->toList().size(), 1);
+    QJsonArray most;
+    ASSERT_EQ(run({ "--json", "history", "most-viewed" }, &most), 0);
+    ASSERT_EQ(most.size(), 1);
+    EXPECT_EQ(most.at(0).toObject().value("unId").toString(), "1017");
 
     EXPECT_EQ(run({ "history", "clear" }), 0);
     EXPECT_EQ(plist::parse(readBytes(user.library("viewedHistory.dat")))->toList(), QVariantList());

@@ -40,8 +40,7 @@ TEST(PropertyList, EveryKindSurvivesTheBinaryForm)
         { "uid", QVariant::fromValue(PlistUid{ 70000 }) },
     };
     const QVariant back = roundTrip(value);
-    EXPECT_EQ(back, QVariant(value));
-    EXPECT_EQ(back.toMap().value("dates").toList().at(0).toDateTime().toMSecsSinceEpoch(), 1709647629123) << "milliseconds kept";
+    EXPECT_EQ(back, QVariant(value)) << "dates to the millisecond";
     EXPECT_EQ(roundTrip(QVariant(std::numeric_limits<qulonglong>::max())).toULongLong(), std::numeric_limits<qulonglong>::max());
 }
 

@@ -1,13 +1,10 @@
 // The orange guides read from the official guidebook pages, checked against
 // what the printed pages say, and the errors of files that are not guides.
+#include "ImportTestSupport.h"
+
 #include "import/ErgGuides.h"
 #include "import/PdfText.h"
 
-#include <QBuffer>
-#include <QDir>
-#include <QFileInfo>
-#include <QPainter>
-#include <QPdfWriter>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
@@ -15,11 +12,8 @@ namespace qor::import {
 namespace {
 
 using Kind = GuideBlock::Kind;
-
-QString officialPdf(const char* name)
-{
-    return QStringLiteral(QOR_OFFICIAL_DIR "/erg2024/") + QLatin1String(name);
-}
+using test::DrawnText;
+using test::ergPdf;
 
 // The guide section is read once for all tests.
 const ErgGuides& section()
@@ -28,7 +22,7 @@ const ErgGuides& section()
         PdfText pdf;
         QString error;
         ErgGuides g;
-        EXPECT_TRUE(pdf.open(officialPdf("ERG_Guide_Section.pdf"), &error)) << error.toStdString();
+        EXPECT_TRUE(pdf.open(ergPdf("ERG_Guide_Section.pdf"), &error)) << error.toStdString();
         EXPECT_TRUE(readGuides(pdf, &g, &error)) << error.toStdString();
         return g;
     }();
@@ -170,7 +164,7 @@ TEST(ErgGuides, IntroductionFromEitherFile)
     const std::vector<GuideBlock>& intro = section().introduction;
     PdfText pdf;
     QString error;
-    ASSERT_TRUE(pdf.open(officialPdf("Guide_introduction.pdf"), &error));
+    ASSERT_TRUE(pdf.open(ergPdf("Guide_introduction.pdf"), &error));
     std::vector<GuideBlock> alone;
     ASSERT_TRUE(readGuideIntroduction(pdf, &alone, &error)) << error.toStdString();
     ASSERT_EQ(alone.size(), intro.size());
@@ -212,41 +206,16 @@ TEST(ErgGuides, HtmlAndGuideList)
 }
 
 // A PDF drawn here, page by page: a "GUIDE nnn" head in large type with a title, a heading and a bullet.
-QByteArray drawnPdf(const QStringList& heads)
+QByteArray drawnGuides(const QStringList& heads)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setResolution(72);
-    writer.setPageSize(QPageSize(QSizeF(391.5, 549), QPageSize::Point));
-    writer.setPageMargins(QMarginsF(0, 0, 0, 0));
-    QPainter p(&writer);
-    for (qsizetype i = 0; i < heads.size(); ++i) {
-        if (i)
-            writer.newPage();
-        QFont big(QStringLiteral("DejaVu Sans"));
-        big.setPixelSize(16);
-        p.setFont(big);
-        if (!heads[i].isEmpty()) {
-            p.drawText(QPointF(30, 28), QStringLiteral("GUIDE"));
-            p.drawText(QPointF(30, 46), heads[i]);
-            QFont title(QStringLiteral("DejaVu Sans"));
-            title.setPixelSize(11);
-            p.setFont(title);
-            p.drawText(QPointF(92, 30), QStringLiteral("Gases - Inert"));
-        }
-        QFont body(QStringLiteral("DejaVu Sans"));
-        body.setPixelSize(9);
-        body.setBold(true);
-        p.setFont(body);
-        p.drawText(QPointF(150, 70), QStringLiteral("POTENTIAL HAZARDS"));
-        body.setBold(false);
-        p.setFont(body);
-        p.drawText(QPointF(30, 90), QStringLiteral("• Keep unauthorized personnel away."));
+    QList<QList<DrawnText>> pages;
+    for (const QString& head : heads) {
+        QList<DrawnText> page{ { 150, 70, 9, "POTENTIAL HAZARDS", true }, { 30, 90, 9, "• Keep unauthorized personnel away." } };
+        if (!head.isEmpty())
+            page << DrawnText{ 30, 28, 16, "GUIDE" } << DrawnText{ 30, 46, 16, head } << DrawnText{ 92, 30, 11, "Gases - Inert" };
+        pages << page;
     }
-    p.end();
-    return bytes;
+    return test::drawnPdf(pages);
 }
 
 QString readError(const QByteArray& bytes)
@@ -265,18 +234,18 @@ QString readError(const QByteArray& bytes)
 
 TEST(ErgGuidesErrors, NameTheFileAndPage)
 {
-    EXPECT_EQ(readError(drawnPdf({ "111", "111", "112", "112" })), QStringLiteral("read 2 guides"));
-    EXPECT_EQ(readError(drawnPdf({ "111", "111", "112" })), QStringLiteral("drawn.pdf: page 3: guide 112 has only one page"));
-    EXPECT_EQ(readError(drawnPdf({ "111", "112", "112" })), QStringLiteral("drawn.pdf: page 1: guide 111 has only one page"));
-    EXPECT_EQ(readError(drawnPdf({ "111", "111", "111" })), QStringLiteral("drawn.pdf: page 3: guide 111 runs over more than two pages"));
-    EXPECT_EQ(readError(drawnPdf({ "111", "111", "113", "113" })), QStringLiteral("drawn.pdf: page 3: guide 113 follows guide 111; the guides between are missing"));
-    EXPECT_EQ(readError(drawnPdf({ "", "" })), QStringLiteral("drawn.pdf: no \"GUIDE nnn\" page heads found"));
+    EXPECT_EQ(readError(drawnGuides({ "111", "111", "112", "112" })), QStringLiteral("read 2 guides"));
+    EXPECT_EQ(readError(drawnGuides({ "111", "111", "112" })), QStringLiteral("drawn.pdf: page 3: guide 112 has only one page"));
+    EXPECT_EQ(readError(drawnGuides({ "111", "112", "112" })), QStringLiteral("drawn.pdf: page 1: guide 111 has only one page"));
+    EXPECT_EQ(readError(drawnGuides({ "111", "111", "111" })), QStringLiteral("drawn.pdf: page 3: guide 111 runs over more than two pages"));
+    EXPECT_EQ(readError(drawnGuides({ "111", "111", "113", "113" })), QStringLiteral("drawn.pdf: page 3: guide 113 follows guide 111; the guides between are missing"));
+    EXPECT_EQ(readError(drawnGuides({ "", "" })), QStringLiteral("drawn.pdf: no \"GUIDE nnn\" page heads found"));
     EXPECT_EQ(readError(QByteArray("%PDF-1.4 not really")), QStringLiteral("drawn.pdf: not a readable PDF"));
     EXPECT_EQ(readError(QByteArray()), QStringLiteral("drawn.pdf: not a readable PDF"));
 
     PdfText pdf;
     QString error;
-    ASSERT_TRUE(pdf.openData(drawnPdf({ "111", "111" }), QStringLiteral("drawn.pdf"), &error));
+    ASSERT_TRUE(pdf.openData(drawnGuides({ "111", "111" }), QStringLiteral("drawn.pdf"), &error));
     std::vector<GuideBlock> intro;
     EXPECT_FALSE(readGuideIntroduction(pdf, &intro, &error));
     EXPECT_EQ(error, QStringLiteral("drawn.pdf: no \"HOW TO USE THE ORANGE GUIDES\" pages found"));
@@ -286,7 +255,7 @@ TEST(ErgGuides, TableOneIntroductionAsPrinted)
 {
     PdfText pdf;
     QString error;
-    ASSERT_TRUE(pdf.open(officialPdf("TIH_Table.pdf"), &error)) << error.toStdString();
+    ASSERT_TRUE(pdf.open(ergPdf("TIH_Table.pdf"), &error)) << error.toStdString();
     std::vector<GuideBlock> intro;
     ASSERT_TRUE(readTableIntroduction(pdf, QStringLiteral("HOW TO USE TABLE 1"), QStringLiteral("ISOLATE"), &intro, &error))
         << error.toStdString();
@@ -304,7 +273,7 @@ TEST(ErgGuides, TableOneIntroductionAsPrinted)
 
     // The guide section has no such pages: an error naming the file, nothing read.
     PdfText guides;
-    ASSERT_TRUE(guides.open(officialPdf("ERG_Guide_Section.pdf"), &error));
+    ASSERT_TRUE(guides.open(ergPdf("ERG_Guide_Section.pdf"), &error));
     std::vector<GuideBlock> none;
     EXPECT_FALSE(readTableIntroduction(guides, QStringLiteral("HOW TO USE TABLE 1"), QStringLiteral("ISOLATE"), &none, &error));
     EXPECT_TRUE(error.startsWith(QStringLiteral("ERG_Guide_Section.pdf: no \"HOW TO USE TABLE 1\" pages"))) << error.toStdString();

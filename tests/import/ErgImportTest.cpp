@@ -1,60 +1,46 @@
 // The guidebook importer on the official pages: whole-table facts, rows read
 // by value against the printed pages, and clear errors on bad input.
-#include "import/ErgImport.h"
-#include "model/QORModel.h"
+#include "ImportTestSupport.h"
 
-#include <QBuffer>
+#include "import/ErgImport.h"
+
 #include <QFile>
-#include <QPainter>
-#include <QPdfWriter>
 #include <QSet>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace qor;
 using namespace qor::import;
+using qor::test::ergPdf;
 
 namespace {
 
-QString official(const char* name)
+// The yellow index and Tables 1 to 3, read once for all tests.
+const ErgTables& tables()
 {
-    return QStringLiteral(QOR_SOURCE_DIR "/resources/official/erg2024/") + QLatin1String(name);
+    static const ErgTables t = [] {
+        QString error;
+        auto read = ErgImport::read({ ergPdf("ERG_Material_Yellow_Section.pdf"), ergPdf("TIH_Table1.pdf"), ergPdf("TIH_Table2.pdf"),
+                                      ergPdf("TIH_Table3.pdf") },
+                                    &error);
+        EXPECT_TRUE(read) << error.toStdString();
+        return read.value_or(ErgTables{});
+    }();
+    return t;
 }
 
-class ErgImportTest : public ::testing::Test {
-protected:
-    static void SetUpTestSuite()
-    {
-        QString error;
-        auto read = ErgImport::read({ official("ERG_Material_Yellow_Section.pdf"), official("TIH_Table1.pdf"),
-                                      official("TIH_Table2.pdf"), official("TIH_Table3.pdf") },
-                                    &error);
-        ASSERT_TRUE(read) << error.toStdString();
-        s_tables = new ErgTables(*read);
-    }
-    static void TearDownTestSuite()
-    {
-        delete s_tables;
-        s_tables = nullptr;
-    }
-    static const ErgTables& tables() { return *s_tables; }
-
-    static QList<ErgTable1Row> table1Rows(const QString& id)
-    {
-        QList<ErgTable1Row> out;
-        for (const ErgTable1Row& r : tables().table1)
-            if (r.id == id)
-                out << r;
-        return out;
-    }
-
-private:
-    static inline ErgTables* s_tables = nullptr;
-};
+QList<ErgTable1Row> table1Rows(const QString& id)
+{
+    QList<ErgTable1Row> out;
+    for (const ErgTable1Row& r : tables().table1)
+        if (r.id == id)
+            out << r;
+    return out;
+}
 
 } // namespace
 
-TEST_F(ErgImportTest, WholeTablesHaveTheGuidebooksCounts)
+TEST(ErgImport, WholeTablesHaveTheGuidebooksCounts)
 {
     QSet<QString> ids;
     int highlighted = 0;
@@ -82,7 +68,7 @@ TEST_F(ErgImportTest, WholeTablesHaveTheGuidebooksCounts)
     EXPECT_EQ(ErgImport::highlightMismatches(tables()), QStringList());
 }
 
-TEST_F(ErgImportTest, Table1RowsByValue)
+TEST(ErgImport, Table1RowsByValue)
 {
     // Two names of one group share the figures; Table 3 gives ammonia's large spill.
     const auto ammonia = table1Rows(QStringLiteral("1005"));
@@ -106,7 +92,7 @@ TEST_F(ErgImportTest, Table1RowsByValue)
     EXPECT_EQ(bromine[1].large->values(), QStringList({ "100", "300", "0.8", "0.5", "2.8", "1.8" }));
 }
 
-TEST_F(ErgImportTest, Table1GroupsWrappedNamesAndOpenEndedFigures)
+TEST(ErgImport, Table1GroupsWrappedNamesAndOpenEndedFigures)
 {
     // The figures sit beside the second synonym's first line; the group's
     // rules give them to both.
@@ -124,7 +110,7 @@ TEST_F(ErgImportTest, Table1GroupsWrappedNamesAndOpenEndedFigures)
     EXPECT_EQ(nickel[0].large->nightMi, QStringLiteral("7.0+"));
 }
 
-TEST_F(ErgImportTest, IndexRowsJoinWrappedNamesAndKeepThePolymerizationMark)
+TEST(ErgImport, IndexRowsJoinWrappedNamesAndKeepThePolymerizationMark)
 {
     auto find = [&](const QString& id, const QString& name) -> const ErgIndexRow* {
         for (const ErgIndexRow& r : tables().index)
@@ -139,7 +125,7 @@ TEST_F(ErgImportTest, IndexRowsJoinWrappedNamesAndKeepThePolymerizationMark)
     EXPECT_TRUE(find(QStringLiteral("1005"), QStringLiteral("Ammonia, anhydrous"))->highlighted);
 }
 
-TEST_F(ErgImportTest, Tables2And3ByValue)
+TEST(ErgImport, Tables2And3ByValue)
 {
     QHash<QString, QStringList> gases;
     for (const ErgTable2Row& r : tables().table2)
@@ -161,7 +147,7 @@ TEST_F(ErgImportTest, Tables2And3ByValue)
     EXPECT_EQ(hclRail->values.first(), QStringLiteral("500"));
 }
 
-TEST_F(ErgImportTest, IsoConditionsKeepEveryNamesOwnFigures)
+TEST(ErgImport, IsoConditionsKeepEveryNamesOwnFigures)
 {
     const QList<ErgTable1Row>& rows = tables().table1;
     const QStringList conditions = isoConditions(rows);
@@ -221,40 +207,13 @@ TEST(ErgIsoConditions, ASpillConditionFollowsTheNameThatTellsRowsApart)
                                                  "Inhalation Hazard Zone A", "Inhalation Hazard Zone B" }));
 }
 
-TEST_F(ErgImportTest, BuiltInContainerRowsMatchTheImportedTable3)
-{
-    // Compared as numbers: the built-in rows write "11+" for the printed "11.0+".
-    auto number = [](QString s) { return s.remove(QLatin1Char('+')).toDouble(); };
-    QSet<QString> ids;
-    for (const ErgTable3Row& r : tables().table3)
-        for (const QString& id : r.ids)
-            ids.insert(id);
-    ASSERT_EQ(ids.size(), 7);
-    for (const QString& id : ids) {
-        QList<QStringList> imported;
-        for (const ErgTable3Row& r : tables().table3)
-            if (r.ids.contains(id))
-                imported << r.values;
-        const OrderedMap<QString> builtIn = QORModel::builtInLargeSpillIsoDistances(id);
-        ASSERT_EQ(builtIn.count(), imported.size()) << id.toStdString();
-        for (qsizetype i = 0; i < imported.size(); ++i) {
-            const QStringList figures = builtIn.value(builtIn.keys().at(i)).split(QLatin1Char(','));
-            ASSERT_EQ(figures.size(), 14);
-            for (int k = 0; k < 14; ++k) {
-                EXPECT_EQ(number(figures.at(k)), number(imported[i].at(k))) << "UN" << id.toStdString() << " row " << i << " figure " << k;
-                EXPECT_EQ(figures.at(k).endsWith(QLatin1Char('+')), imported[i].at(k).endsWith(QLatin1Char('+')));
-            }
-        }
-    }
-}
-
 TEST(ErgImportSections, TheWholeGreenSectionReadsLikeItsExtracts)
 {
     QString error;
-    const auto whole = ErgImport::read({ official("TIH_Table.pdf"), official("ERG_Material_Yellow_Section.pdf") }, &error);
+    const auto whole = ErgImport::read({ ergPdf("TIH_Table.pdf"), ergPdf("ERG_Material_Yellow_Section.pdf") }, &error);
     ASSERT_TRUE(whole) << error.toStdString();
-    const auto parts = ErgImport::read({ official("TIH_Table1.pdf"), official("TIH_Table2.pdf"), official("ERG_Material_Yellow_Section.pdf"),
-                                         official("TIH_Table3.pdf") },
+    const auto parts = ErgImport::read({ ergPdf("TIH_Table1.pdf"), ergPdf("TIH_Table2.pdf"), ergPdf("ERG_Material_Yellow_Section.pdf"),
+                                         ergPdf("TIH_Table3.pdf") },
                                        &error);
     ASSERT_TRUE(parts) << error.toStdString();
     EXPECT_EQ(table1Csv(*whole), table1Csv(*parts));
@@ -280,14 +239,14 @@ TEST(ErgImportErrors, NameTheFileAndWhatIsMissing)
     EXPECT_TRUE(error.startsWith(notPdf + QStringLiteral(": "))) << error.toStdString();
 
     // Files that hold only some sections: the rest is named as not found.
-    EXPECT_FALSE(ErgImport::read({ official("TIH_Table2.pdf"), official("Guide_introduction.pdf") }, &error));
+    EXPECT_FALSE(ErgImport::read({ ergPdf("TIH_Table2.pdf"), ergPdf("Guide_introduction.pdf") }, &error));
     EXPECT_TRUE(error.startsWith(QStringLiteral("TIH_Table2.pdf, Guide_introduction.pdf: not found: the yellow index"))) << error.toStdString();
     EXPECT_FALSE(error.contains(QStringLiteral("Table 2 ("))) << error.toStdString();
 }
 
 TEST(ErgImportErrors, ATruncatedExtractGivesAnErrorOrFewerRowsNeverACrash)
 {
-    QFile f(official("TIH_Table3.pdf"));
+    QFile f(ergPdf("TIH_Table3.pdf"));
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     const QByteArray bytes = f.readAll();
     for (const qsizetype size : { qsizetype(0), qsizetype(100), bytes.size() / 2, bytes.size() - 200 }) {
@@ -300,42 +259,20 @@ TEST(ErgImportErrors, ATruncatedExtractGivesAnErrorOrFewerRowsNeverACrash)
     }
 }
 
-namespace {
-
 // A one-page index drawn like the guidebook's: two columns of "ID Guide Name
 // of Material", rows 15 pt apart.
-QByteArray drawnIndex(const QList<QStringList>& rows)
+static QByteArray drawnIndex(const QList<QStringList>& rows)
 {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    {
-        QPdfWriter writer(&buffer);
-        writer.setPageSize(QPageSize(QSizeF(391.5, 549), QPageSize::Point));
-        writer.setPageMargins(QMarginsF(0, 0, 0, 0));
-        writer.setResolution(72);
-        QPainter p(&writer);
-        QFont font(QStringLiteral("DejaVu Sans"));
-        font.setPixelSize(9);
-        p.setFont(font);
-        for (const double x : { 30.0, 205.0 }) {
-            p.drawText(QPointF(x, 20), QStringLiteral("ID"));
-            p.drawText(QPointF(x + 30, 20), QStringLiteral("Guide"));
-            p.drawText(QPointF(x + 65, 20), QStringLiteral("Name of Material"));
-        }
-        for (int i = 0; i < rows.size(); ++i) {
-            const double y = 50 + 15 * i;
-            const QStringList& r = rows.at(i);
-            p.drawText(QPointF(r.at(0).isEmpty() ? 100 : 30, y), r.at(0).isEmpty() ? r.at(2) : r.at(0));
-            if (!r.at(0).isEmpty()) {
-                p.drawText(QPointF(60, y), r.at(1));
-                p.drawText(QPointF(95, y), r.at(2));
-            }
-        }
+    const double offsets[] = { 0, 30, 65 };
+    QList<test::DrawnText> page;
+    for (int column = 0; column < 3; ++column) {
+        for (const double x : { 30.0, 205.0 })
+            page << test::DrawnText{ x + offsets[column], 20, 9, QStringList({ "ID", "Guide", "Name of Material" }).at(column) };
+        for (int i = 0; i < rows.size(); ++i)
+            page << test::DrawnText{ 30 + offsets[column], 50.0 + 15 * i, 9, rows.at(i).at(column) };
     }
-    return buffer.data();
+    return test::drawnPdf({ page });
 }
-
-} // namespace
 
 TEST(ErgImportDrawn, AnUnreadableRowNamesFileAndPage)
 {

@@ -1,13 +1,12 @@
 // qor-cli import-ecfr / import-npg on the official files, in-process.
 #include "CliRun.h"
 
+#include "model/Sqlite.h"
+
 #include <QDir>
 #include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 using namespace qor;
 
@@ -21,14 +20,9 @@ using test::runCli;
 QStringList column(const QString& db, const QString& sql)
 {
     QStringList out;
-    sqlite3* h = nullptr;
-    sqlite3_stmt* st = nullptr;
-    if (sqlite3_open_v2(QFile::encodeName(db).constData(), &h, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK
-        && sqlite3_prepare_v2(h, sql.toUtf8().constData(), -1, &st, nullptr) == SQLITE_OK)
-        while (sqlite3_step(st) == SQLITE_ROW)
-            out << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
-    sqlite3_finalize(st);
-    sqlite3_close(h);
+    const Database handle = Database::openReadOnly(db);
+    for (Statement st(handle, sql); st.step();)
+        out << st.text(0);
     return out;
 }
 
@@ -40,15 +34,14 @@ TEST(ImportCommands, EcfrAndPocketGuideIntoAFreshFolder)
     const CliRun ecfr = runCli({ "import-ecfr", "--output", dir.path(), kOfficial + "/cfr49/ecfr-section-172.101.xml",
                            kOfficial + "/cfr49/ecfr-section-172.504.xml" });
     ASSERT_EQ(ecfr.code, 0) << ecfr.err.toStdString();
-    EXPECT_TRUE(ecfr.out.contains(QStringLiteral("hmt: 3002 rows")));
     const QString npgDb = dir.filePath(QStringLiteral("npg.db"));
     EXPECT_EQ(column(npgDb, "select non_bulk || '/' || bulk from hmt where un_id = '1089'"), QStringList{ "201/243" });
     // Sections without special provisions leave the provision pages alone.
     EXPECT_FALSE(QFile::exists(dir.filePath(QStringLiteral("A.html"))));
 
-    const CliRun npg = runCli({ "--json", "import-npg", "--output", dir.path(), kOfficial + "/niosh-npg/npg-html-2015.tar.xz" });
+    // The row counts are the importer tests'; here, that they reach the database.
+    const CliRun npg = runCli({ "import-npg", "--output", dir.path(), kOfficial + "/niosh-npg/npg-html-2015.tar.xz" });
     ASSERT_EQ(npg.code, 0) << npg.err.toStdString();
-    EXPECT_EQ(QJsonDocument::fromJson(npg.out.toUtf8()).object().value("chemicals").toInt(), 677);
     EXPECT_EQ(column(npgDb, "select count(*) from npg_guides"), QStringList{ "677" });
     // The shipping rows are still there: an import replaces only its own tables.
     EXPECT_EQ(column(npgDb, "select count(*) from hmt"), QStringList{ "3002" });
