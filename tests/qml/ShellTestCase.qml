@@ -26,6 +26,14 @@ TestCase {
     function indexOfKind(page, kind, key) {
         return rowsOf(page).findIndex(function(r) { return r.kind === kind && (key === undefined || r.key === key) })
     }
+    // Types unId into the materials search and waits until it heads the results.
+    function searchFor(unId) {
+        var list = win.materialList
+        list.searchField.text = unId
+        list.searchField.textEdited()
+        tryVerify(function() { return list.controller.rowCount() > 0 && list.controller.materialAt(0).unId === unId }, 3000)
+        return list.controller.materialAt(0)
+    }
 
     function initTestCase() {
         setUpWindow()

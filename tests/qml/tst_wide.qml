@@ -30,12 +30,7 @@ ShellTestCase {
     }
 
     function materialWithId(unId) {
-        var controller = win.materialList.controller
-        var field = win.materialList.searchField
-        field.text = unId
-        field.textEdited()
-        tryVerify(function() { return controller.rowCount() > 0 && controller.materialAt(0).unId === unId }, 3000)
-        var m = controller.materialAt(0)
+        var m = searchFor(unId)
         win.materialList.endSearch()
         return m
     }

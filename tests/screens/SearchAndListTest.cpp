@@ -1,27 +1,20 @@
 // The material list controller: search paths, ranking, sections and loading state.
 #include "CheckedModel.h"
-#include "FixturePack.h"
+#include "ScreensSupport.h"
 
 #include "MaterialListController.h"
 #include "model/MaterialSearch.h"
-#include "model/QORModel.h"
 
 #include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
 
 using namespace qor;
-using qor::test::FixturePack;
-using qor::test::CheckedModel;
-using qor::test::ModelFixture;
-using qor::test::names;
+using namespace qor::test;
 
 namespace {
 
-struct ListControllerTest : ::testing::Test {
-    FixturePack pack;
-    std::unique_ptr<ModelFixture> fixture;
-    QORModel* model = nullptr;
+struct ListControllerTest : ScreenTest {
     void SetUp() override
     {
         pack.setMaterials({
@@ -36,8 +29,7 @@ struct ListControllerTest : ::testing::Test {
             "1,1-DIFLUOROETHANE^2.1^115^1030^^^",
         });
         pack.setGuides({ "115^Gases - flammable", "124^Gases - toxic and/or corrosive - oxidizing", "127^Flammable liquids" });
-        fixture = std::make_unique<ModelFixture>();
-        model = QORModel::sharedInstance();
+        load();
         model->loadGuideList();
     }
 };

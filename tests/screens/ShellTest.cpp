@@ -1,6 +1,6 @@
 // Links into the app, the UN-number search and the filter screens.
 #include "CheckedModel.h"
-#include "FixturePack.h"
+#include "ScreensSupport.h"
 
 #include "AppDelegate.h"
 #include "AppLinks.h"
@@ -9,7 +9,6 @@
 #include "history/HistoryManager.h"
 #include "history/PropertyList.h"
 #include "history/UserPaths.h"
-#include "model/QORModel.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -19,22 +18,16 @@
 #include <gtest/gtest.h>
 
 using namespace qor;
-using qor::test::FixturePack;
-using qor::test::CheckedModel;
-using qor::test::ModelFixture;
+using namespace qor::test;
 
 namespace {
-struct ShellTest : ::testing::Test {
-    FixturePack pack;
-    std::unique_ptr<ModelFixture> fixture;
-    QORModel* model = nullptr;
+struct ShellTest : ScreenTest {
     void SetUp() override
     {
         pack.setMaterials({ "AMMONIA SOLUTION^8^154^1005^^^", "AMMONIA, ANHYDROUS^2.3^125^1005^X^^",
                             "CHLORINE^2.3^124^1017^X^^", "ACETONE^3^127^1090^^^" });
         pack.sql("hazmat_incidents.dat", "insert into incidents (un_id) values ('1017');");
-        fixture = std::make_unique<ModelFixture>();
-        model = QORModel::sharedInstance();
+        load();
     }
 };
 } // namespace
