@@ -1,5 +1,6 @@
 #pragma once
-// A test on a fixture pack: fill `pack`, then load() makes the shared model over it.
+// A test on a fixture pack: fill `pack`, then load() makes the shared model
+// over it (again, after the pack has changed).
 #include "FixturePack.h"
 
 #include "model/QORModel.h"
@@ -15,6 +16,7 @@ struct PackTest : ::testing::Test {
     QORModel* model = nullptr;
     void load()
     {
+        fixture.reset();  // its end deletes the shared model: before the next one
         fixture = std::make_unique<ModelFixture>();
         model = QORModel::sharedInstance();
     }
