@@ -71,14 +71,8 @@ TEST_F(ListControllerTest, ScanStopsAfter151Matches)
 
 TEST_F(ListControllerTest, RankingWeightsViewedMaterialsAndNameOrder)
 {
-    auto find = [&](const char* unId) {
-        for (const auto& m : model->materials())
-            if (m->unId == unId)
-                return m;
-        return MaterialPtr();
-    };
-    const MaterialPtr ammonia = find("1005"), chlorine = find("1017"), xenon = find("2036"), zirconium = find("1932"),
-                      benzene = find("1114");
+    const MaterialPtr ammonia = material(1005).ptr, chlorine = material(1017).ptr, xenon = material(2036).ptr,
+                      zirconium = material(1932).ptr, benzene = material(1114).ptr;
     MaterialSearch plain;
     MaterialList list = { chlorine, zirconium, ammonia, xenon };
     plain.rank(list);
