@@ -75,6 +75,36 @@ PackSource FixturePack::partialReportsSource()
     return s;
 }
 
+PackManifest FixturePack::officialManifest()
+{
+    PackManifest m;
+    m.edition = QStringLiteral("official test pack");
+    m.buildDate = QStringLiteral("2026-08-01");
+    PackSource cfr;
+    cfr.id = QStringLiteral("cfr");
+    cfr.title = QStringLiteral("49 CFR 172.101");
+    cfr.citation = QStringLiteral("49 CFR 172.101 (eCFR, 2026-07-28)");
+    cfr.files.insert(QStringLiteral("official/cfr49/ecfr-section-172.101.xml"), QString(64, QLatin1Char('0')));
+    PackSource erg;
+    erg.id = QStringLiteral("erg2024");
+    erg.title = QStringLiteral("Emergency Response Guidebook 2024");
+    erg.edition = QStringLiteral("2024");
+    erg.citation = QStringLiteral("ERG 2024");
+    erg.files.insert(QStringLiteral("official/erg2024/TIH_Table1.pdf"), QString(64, QLatin1Char('a')));
+    const PackSource reports = partialReportsSource();
+    m.sourceList << cfr << erg << reports;
+    for (const char* t : { "hmt", "dot_classes", "dot_placards", "vessel_stowage", "placards" })
+        m.tables[QLatin1String(t)].sources << cfr.id;
+    for (const char* t : { "materials", "guides", "iso_distances" })
+        m.tables[QLatin1String(t)].sources << erg.id;
+    m.tables[QStringLiteral("iso_distances")].citation = QStringLiteral("ERG 2024, Table 1");
+    m.tables[QStringLiteral("iso_distances")].rows = 537;
+    m.tables[QStringLiteral("incidents")].sources << reports.id;
+    for (const char* t : { "cameo", "wiser_text", "ghs", "nfpa", "hmt_sections", "npg_guides", "unid_npgid", "cfr_text" })
+        m.tables[QLatin1String(t)];
+    return m;
+}
+
 void FixturePack::writeManifest()
 {
     PackManifest m = fixtureManifest();

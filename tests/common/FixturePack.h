@@ -61,6 +61,10 @@ public:
     // The incident reports as an official pack declares them: a partial
     // extract ("DOT 5800.1"), Aug 2024 to Jul 2025, with one file and sum.
     static PackSource partialReportsSource();
+    // An official pack's: the regulation ("cfr") for the shipping tables, the
+    // guidebook ("erg2024") for materials, guides and distances, the reports
+    // for incidents; the chemistry tables are declared without a source.
+    static PackManifest officialManifest();
     // Writes it with the checksums of the files as they are now.
     void writeManifest();
 

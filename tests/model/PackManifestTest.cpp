@@ -10,37 +10,6 @@
 namespace qor::test {
 namespace {
 
-PackManifest officialManifest()
-{
-    PackManifest m;
-    m.edition = QStringLiteral("official");
-    m.buildDate = QStringLiteral("2026-08-01");
-    PackSource erg;
-    erg.id = QStringLiteral("erg2024");
-    erg.title = QStringLiteral("Emergency Response Guidebook 2024");
-    erg.edition = QStringLiteral("2024");
-    erg.citation = QStringLiteral("ERG 2024");
-    erg.files.insert(QStringLiteral("official/erg2024/TIH_Table1.pdf"), QString(64, QLatin1Char('a')));
-    const PackSource reports = FixturePack::partialReportsSource();
-    m.sourceList << erg << reports;
-    PackTable iso;
-    iso.sources << erg.id;
-    iso.citation = QStringLiteral("ERG 2024, Table 1");
-    iso.rows = 537;
-    PackTable guides;
-    guides.sources << erg.id;
-    PackTable incidents;
-    incidents.sources << reports.id;
-    m.tables.insert(QStringLiteral("iso_distances"), iso);
-    m.tables.insert(QStringLiteral("guides"), guides);
-    m.tables.insert(QStringLiteral("incidents"), incidents);
-    m.tables.insert(QStringLiteral("nfpa"), PackTable());
-    PackTable both;
-    both.sources << erg.id << reports.id;
-    m.tables.insert(QStringLiteral("materials"), both);
-    return m;
-}
-
 void writeJson(FixturePack& pack, const QByteArray& json)
 {
     pack.writeFile(QString::fromLatin1(PackManifest::kFileName), json);
@@ -49,7 +18,7 @@ void writeJson(FixturePack& pack, const QByteArray& json)
 TEST(PackManifest, ProvenanceSurvivesWriteAndRead)
 {
     FixturePack pack;
-    PackManifest written = officialManifest();
+    PackManifest written = FixturePack::officialManifest();
     ASSERT_TRUE(written.writeWithChecksums(pack.dir()));
     QString error;
     const auto read = PackManifest::read(pack.dir(), &error);
@@ -61,16 +30,16 @@ TEST(PackManifest, ProvenanceSurvivesWriteAndRead)
     EXPECT_EQ(read->tables.value(QStringLiteral("iso_distances")).rows, 537);
     EXPECT_EQ(read->tables.value(QStringLiteral("guides")).rows, -1) << "text contents carry no row count";
     EXPECT_TRUE(read->tables.value(QStringLiteral("nfpa")).sources.isEmpty());
-    EXPECT_EQ(read->sources, QStringList({ "Emergency Response Guidebook 2024, 2024", "Incident reports" }));
+    EXPECT_EQ(read->sources, QStringList({ "49 CFR 172.101", "Emergency Response Guidebook 2024, 2024", "Incident reports" }));
 }
 
 TEST(PackManifest, CitationOfAnUnlistedTableAndPartialNotes)
 {
-    const PackManifest m = officialManifest();
-    EXPECT_EQ(m.citation(QStringLiteral("hmt")), "") << "not listed";
+    const PackManifest m = FixturePack::officialManifest();
+    EXPECT_EQ(m.citation(QStringLiteral("large_spill_distances")), "") << "not listed";
     EXPECT_EQ(m.partialNote(QStringLiteral("incidents")), "From a partial extract of DOT 5800.1 reports, Aug 2024 to Jul 2025");
     PackManifest noPeriod = m;
-    noPeriod.sourceList[1].periodTo.clear();
+    noPeriod.sourceList[2].periodTo.clear();
     EXPECT_EQ(noPeriod.partialNote(QStringLiteral("incidents")), "From a partial extract of DOT 5800.1 reports");
     EXPECT_TRUE(FixturePack::fixtureManifest().tableIsSample(QStringLiteral("hmt")));
 }
@@ -106,7 +75,8 @@ TEST(PackManifest, OlderAndMalformedManifests)
 TEST(PackManifest, ActivePackMarksAndSourceLines)
 {
     FixturePack pack;
-    PackManifest official = officialManifest();
+    PackManifest official = FixturePack::officialManifest();
+    official.tables[QStringLiteral("materials")].sources << FixturePack::partialReportsSource().id;
     ASSERT_TRUE(official.writeWithChecksums(pack.dir()));
     EXPECT_EQ(PackManifest::activeNotice(), "") << "a verified official pack shows no mark";
     // Each citation once; a table without sources adds nothing.

@@ -16,15 +16,24 @@ TestCase {
     function setUpWindow() {}
     function reset() {}
 
-    // The rows of a detail page, and the index of the first of `kind` (and `key`).
-    function rowsOf(page) {
+    // The rows of a row model or of a detail page, and the index of the first of `kind` (and `key`).
+    function rowsIn(model) {
         var rows = []
-        for (var i = 0; i < page.controller.rowModel.count; ++i)
-            rows.push(page.controller.rowModel.get(i))
+        for (var i = 0; i < model.count; ++i)
+            rows.push(model.get(i))
         return rows
     }
+    function rowsOf(page) { return rowsIn(page.controller.rowModel) }
     function indexOfKind(page, kind, key) {
         return rowsOf(page).findIndex(function(r) { return r.kind === kind && (key === undefined || r.key === key) })
+    }
+    // Types unId into the materials search and waits until it heads the results.
+    function searchFor(unId) {
+        var list = win.materialList
+        list.searchField.text = unId
+        list.searchField.textEdited()
+        tryVerify(function() { return list.controller.rowCount() > 0 && list.controller.materialAt(0).unId === unId }, 3000)
+        return list.controller.materialAt(0)
     }
 
     function initTestCase() {

@@ -18,10 +18,7 @@ ShellTestCase {
     }
 
     function openMaterial(unId) {
-        var field = list().searchField
-        field.text = unId
-        field.textEdited()
-        tryVerify(function() { return list().controller.rowCount() > 0 && list().controller.materialAt(0).unId === unId }, 3000)
+        searchFor(unId)
         list().openRow(0)
         tryCompare(stack(), "busy", false)
         tryCompare(stack(), "depth", 2)

@@ -50,15 +50,10 @@ ShellTestCase {
     }
     // Down through the rows to the first one of `kind` (and `key`), by keys only.
     function focusRow(table, kind, key) {
-        var rows = []
-        for (var r = 0; r < table.model.count; ++r)
-            rows.push(table.model.get(r))
+        var rows = rowsIn(table.model)
         // "guide" names DetailRowModel.Guide, and so on.
         var wanted = DetailRowModel[kind.charAt(0).toUpperCase() + kind.slice(1)]
-        var target = -1
-        for (var i = 0; i < rows.length && target < 0; ++i)
-            if (rows[i].kind === wanted && (key === undefined || rows[i].key === key))
-                target = i
+        var target = rows.findIndex(function(r) { return r.kind === wanted && (key === undefined || r.key === key) })
         verify(target >= 0, "a " + kind + " row in " + JSON.stringify(rows.map(function(r) { return r.kind + ":" + r.key })))
         while (table.currentIndex < target)
             keyClick(Qt.Key_Down)

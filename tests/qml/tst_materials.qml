@@ -29,7 +29,6 @@ ShellTestCase {
         compare(controller.sortType, 1)
         controller.chooseCategory("T")
         tryCompare(list().titleLabel, "text", " Toxic Inhalation Hazard")
-        compare(controller.sortType, 1, "the sort carries over to the new category")
     }
 
     function test_incidentSortSaysCountsArePartial() {

@@ -30,12 +30,7 @@ ShellTestCase {
     }
 
     function materialWithId(unId) {
-        var controller = win.materialList.controller
-        var field = win.materialList.searchField
-        field.text = unId
-        field.textEdited()
-        tryVerify(function() { return controller.rowCount() > 0 && controller.materialAt(0).unId === unId }, 3000)
-        var m = controller.materialAt(0)
+        var m = searchFor(unId)
         win.materialList.endSearch()
         return m
     }
@@ -54,9 +49,7 @@ ShellTestCase {
             tryCompare(stack, "busy", false)
             compare(stack.currentItem.objectName, "shippingEntry")
             controller = stack.currentItem.controller
-            for (var i = 0; i < controller.rowModel.count && row < 0; ++i)
-                if (controller.rowModel.get(i).key === key)
-                    row = i
+            row = rowsIn(controller.rowModel).findIndex(function(r) { return r.key === key })
         }
         controller.activate(row)
         tryCompare(stack, "busy", false)
@@ -121,12 +114,7 @@ ShellTestCase {
         var isolation = findChild(columns, "isolationColumn")
         var shipping = findChild(columns, "shippingColumn")
         verify(isolation.visible && isolation.width >= 280 && summary.width >= 280 && shipping.width >= 280)
-        function kinds(view) {
-            var k = []
-            for (var i = 0; i < view.model.count; ++i)
-                k.push(view.model.get(i).kind)
-            return k
-        }
+        function kinds(view) { return rowsIn(view.model).map(function(r) { return r.kind }) }
         function kindAt(view, index) { return view.model.get(index).kind }
         verify(kinds(shipping).indexOf(DetailRowModel.Npg) >= 0, "protection follows shipping")
         compare(kinds(shipping).indexOf(DetailRowModel.Top), -1, "the name and placard only once")

@@ -1,13 +1,9 @@
 // The material detail screen: tabs, summary rows, shipping rows and the protection tab.
-#include "FixturePack.h"
+#include "ScreensSupport.h"
 
-#include "AppLinks.h"
 #include "MaterialViewController.h"
 #include "Navigation.h"
 #include "ShippingControllers.h"
-#include "model/Device.h"
-#include "model/QORModel.h"
-#include "model/Resources.h"
 
 #include <QDir>
 #include <QSet>
@@ -15,31 +11,11 @@
 #include <gtest/gtest.h>
 
 using namespace qor;
-using qor::test::FixturePack;
-using qor::test::ModelFixture;
+using namespace qor::test;
 
 namespace {
 
-QList<QVariantMap> rowsOf(const QVariantList& list)
-{
-    QList<QVariantMap> out;
-    for (const QVariant& v : list)
-        out << v.toMap();
-    return out;
-}
-
-QVariantMap rowOfKind(const QVariantList& list, const QString& kind, const QString& key = QString())
-{
-    for (const QVariantMap& r : rowsOf(list))
-        if (r.value("kind") == kind && (key.isEmpty() || r.value("key") == key))
-            return r;
-    return {};
-}
-
-struct DetailTest : ::testing::Test {
-    FixturePack pack;
-    std::unique_ptr<ModelFixture> fixture;
-    QORModel* model = nullptr;
+struct DetailTest : ScreenTest {
     void SetUp() override
     {
         pack.setMaterials({ "AMMONIA, ANHYDROUS^2.2^125^1005^X^^", "ACETONE^3^127^1090^^^", "SARIN^6.1^153^2810^^^GB",
@@ -55,18 +31,8 @@ struct DetailTest : ::testing::Test {
                  "insert into hmt values ('1090','Acetone','','3','II','3','A1,B2','','202','242','5 L','60 L','B','','');"
                  "insert into hmt values ('1090','Acetone solution','I','3','III','3','','','203','242','','','','','');");
         pack.sql("cfr49.db", "insert into cfr_text values ('173.203','n1','<p>Non-bulk packagings for liquids</p>','');");
-        fixture = std::make_unique<ModelFixture>();
-        model = QORModel::sharedInstance();
-        Device::setTablet(false);
-        Preferences::setLanguageOverride("en");
+        load();
     }
-    void TearDown() override
-    {
-        Device::setTablet(false);
-        Preferences::setLanguageOverride(QString());
-    }
-
-    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials(), unId.toInt())); }
 };
 
 } // namespace
@@ -115,15 +81,6 @@ TEST_F(DetailTest, SummaryRowsAndTheNfpaSectionOnPhonesOnly)
 }
 
 namespace {
-
-// The index of the first row of a kind (and key), or -1.
-int indexOfKind(const QVariantList& rows, const QString& kind, const QString& key = QString())
-{
-    for (int i = 0; i < rows.size(); ++i)
-        if (rows.at(i).toMap().value("kind") == kind && (key.isEmpty() || rows.at(i).toMap().value("key") == key))
-            return i;
-    return -1;
-}
 
 // What choosing a row asked the navigation for: {file, properties} of the
 // one page requested by origin, or empty when nothing was opened.
@@ -213,9 +170,9 @@ TEST_F(DetailTest, EverySectionInfoButtonOpensAPageOfThePack)
     QSet<QString> named;
     for (int tab = 0; tab < c.segmentCount(); ++tab) {
         c.setSelectedViewIndex(tab);
-        for (const QVariantMap& r : rowsOf(c.rows()))
-            if (!r.value("infoPage").toString().isEmpty())
-                named.insert(r.value("infoPage").toString());
+        for (const QVariant& r : c.rows())
+            if (!r.toMap().value("infoPage").toString().isEmpty())
+                named.insert(r.toMap().value("infoPage").toString());
     }
     for (const QString& page : std::as_const(named))
         EXPECT_TRUE(bundled.exists(page + QStringLiteral(".html"))) << qPrintable(page);

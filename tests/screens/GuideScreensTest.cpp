@@ -1,12 +1,11 @@
 // The guide page, guide list and information screens, and the page view the
 // app shows pages in.
 #include "CheckedModel.h"
-#include "FixturePack.h"
+#include "ScreensSupport.h"
 
 #include "AppLinks.h"
 #include "GuideControllers.h"
 #include "WebEnginePageView.h"
-#include "model/QORModel.h"
 
 #include <QSettings>
 #include <QSignalSpy>
@@ -15,29 +14,22 @@
 #include <gtest/gtest.h>
 
 using namespace qor;
-using qor::test::FixturePack;
-using qor::test::CheckedModel;
-using qor::test::ModelFixture;
+using namespace qor::test;
 
 namespace {
 
-struct GuideScreensTest : ::testing::Test {
-    FixturePack pack;
-    std::unique_ptr<ModelFixture> fixture;
-    QORModel* model = nullptr;
+struct GuideScreensTest : ScreenTest {
     void SetUp() override
     {
         pack.setMaterials({ "AMMONIA, ANHYDROUS^2.2^125^1005^X^^", "ACETONE^3^127^1090^^^" });
         pack.setGuides({ "125^Gases - Corrosive", "127^Flammable Liquids", "128^Flammable Liquids (Water-Immiscible)" });
         pack.sql("npg.db", "insert into iso_distances values ('1005',NULL,'30','100','0.1','0.1','0.2','0.1','','','','','','');");
-        fixture = std::make_unique<ModelFixture>();
-        model = QORModel::sharedInstance();
+        load();
         model->loadGuideList();
         QSettings settings;
         settings.remove(GuideViewController::kTextFontSizeKey);
         settings.remove(GuideViewController::kRotatePromptKey);
     }
-    MaterialRef material(const QString& unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials(), unId.toInt())); }
 };
 
 } // namespace

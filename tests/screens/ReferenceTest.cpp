@@ -1,13 +1,11 @@
 // The reference screen: sections, row texts and colours, and where rows lead.
-#include "FakePageView.h"
 #include "CheckedModel.h"
-#include "FixturePack.h"
+#include "FakePageView.h"
+#include "ScreensSupport.h"
 
 #include "AppDelegate.h"
 #include "MaterialListController.h"
 #include "ReferenceViewController.h"
-#include "model/QORModel.h"
-#include "model/Resources.h"
 #include "model/Translations.h"
 #include "pages/InfoViewFactory.h"
 
@@ -15,20 +13,16 @@
 #include <gtest/gtest.h>
 
 using namespace qor;
-using qor::test::FixturePack;
-using qor::test::CheckedModel;
-using qor::test::ModelFixture;
+using namespace qor::test;
 using R = ReferenceViewController;
 
 namespace {
-struct ReferenceTest : ::testing::Test {
-    FixturePack pack;
-    qor::test::FakePageViews views;
-    std::unique_ptr<ModelFixture> fixture;
+struct ReferenceTest : ScreenTest {
+    FakePageViews views;
     void SetUp() override
     {
         pack.setMaterials({ "CHLORINE^2.3^124^1017^X^^", "ACETONE^3^127^1090^^^" });
-        fixture = std::make_unique<ModelFixture>();
+        load();
     }
     void TearDown() override
     {

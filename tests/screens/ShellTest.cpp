@@ -1,6 +1,7 @@
 // Links into the app, the UN-number search and the filter screens.
 #include "CheckedModel.h"
-#include "FixturePack.h"
+#include "ScreensSupport.h"
+#include "../history/HistoryTestSupport.h"
 
 #include "AppDelegate.h"
 #include "AppLinks.h"
@@ -9,32 +10,23 @@
 #include "history/HistoryManager.h"
 #include "history/PropertyList.h"
 #include "history/UserPaths.h"
-#include "model/QORModel.h"
 
-#include <QDir>
 #include <QGuiApplication>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QWindow>
 #include <gtest/gtest.h>
 
 using namespace qor;
-using qor::test::FixturePack;
-using qor::test::CheckedModel;
-using qor::test::ModelFixture;
+using namespace qor::test;
 
 namespace {
-struct ShellTest : ::testing::Test {
-    FixturePack pack;
-    std::unique_ptr<ModelFixture> fixture;
-    QORModel* model = nullptr;
+struct ShellTest : ScreenTest {
     void SetUp() override
     {
         pack.setMaterials({ "AMMONIA SOLUTION^8^154^1005^^^", "AMMONIA, ANHYDROUS^2.3^125^1005^X^^",
                             "CHLORINE^2.3^124^1017^X^^", "ACETONE^3^127^1090^^^" });
         pack.sql("hazmat_incidents.dat", "insert into incidents (un_id) values ('1017');");
-        fixture = std::make_unique<ModelFixture>();
-        model = QORModel::sharedInstance();
+        load();
     }
 };
 } // namespace
@@ -124,20 +116,10 @@ TEST(SaveWhenHidden, NothingReplacesTheHistoryFileUntilItHasLoaded)
 {
     FixturePack pack;
     pack.setMaterials({ "AMMONIA, ANHYDROUS^2.3^125^1005^X^^" });
-    QTemporaryDir user;
-    UserPaths::setDataDir(user.path());
-    QDir().mkpath(user.filePath("Library"));
-    const QString file = user.filePath("Library/viewedHistory.dat");
+    UserFolder user;
+    const QString file = user.library("viewedHistory.dat");
     const QByteArray saved = *plist::serialize(QVariantList{ QVariantMap{ { "unId", "1017" }, { "name", "Chlorine" } } });
-    const auto contents = [&file] {
-        QFile f(file);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    };
-    {
-        QFile f(file);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(saved);
-    }
+    writeBytes(file, saved);
     delete HistoryManager::sharedInstance(false);
     ModelFixture model(false);  // created; its loading is still scheduled
     QORAppDelegate* app = QORAppDelegate::sharedInstance();
@@ -148,20 +130,16 @@ TEST(SaveWhenHidden, NothingReplacesTheHistoryFileUntilItHasLoaded)
     emit qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
     emit window.visibilityChanged(QWindow::Minimized);
     QMetaObject::invokeMethod(qGuiApp, "aboutToQuit");
-    EXPECT_EQ(contents(), saved) << "a save before loading leaves the user's file alone";
+    EXPECT_EQ(readBytes(file), saved) << "a save before loading leaves the user's file alone";
 
     QORModel::sharedInstance()->loadData();
     HistoryManager::sharedInstance()->addToHistory(QORModel::sharedInstance()->materials().first());
     emit window.visibilityChanged(QWindow::Hidden);
-    EXPECT_EQ(plist::parse(contents())->toList().size(), 2) << "once loaded, hiding saves old and new views";
-    auto acetone = std::make_shared<Material>();
-    acetone->unId = "1090";
-    acetone->name = "Acetone";
-    HistoryManager::sharedInstance()->addToHistory(acetone);
+    EXPECT_EQ(plist::parse(readBytes(file))->toList().size(), 2) << "once loaded, hiding saves old and new views";
+    HistoryManager::sharedInstance()->addToHistory(makeMaterial("1090", "Acetone"));
     QMetaObject::invokeMethod(qGuiApp, "aboutToQuit");
-    EXPECT_EQ(plist::parse(contents())->toList().size(), 3) << "and so does quitting";
+    EXPECT_EQ(plist::parse(readBytes(file))->toList().size(), 3) << "and so does quitting";
 
     QObject::disconnect(qGuiApp, nullptr, app, nullptr);
     delete HistoryManager::sharedInstance(false);
-    UserPaths::setDataDir(QString());
 }

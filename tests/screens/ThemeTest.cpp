@@ -1,8 +1,10 @@
-// The theme's colours stay legible in both appearances, the user's choice of
-// appearance overrides the system's, and the side index fits its height.
+// The theme's colours and the zone figure's inks stay legible in both
+// appearances, the user's choice of appearance overrides the system's, and
+// the side index fits its height.
 #include "GuideControllers.h"
 #include "SideIndex.h"
 #include "Theme.h"
+#include "pages/ProtectiveZone.h"
 
 #include <QSet>
 #include <gtest/gtest.h>
@@ -29,6 +31,18 @@ TEST(Theme, EveryPairIsLegibleInBothAppearances)
             EXPECT_GE(contrastRatio(text, background), needed)
                 << pair.text << " on " << pair.background << (dark ? " (dark)" : " (light)");
         }
+    }
+}
+
+TEST(Theme, ZoneFigureInksAreLegibleOnItsBackground)
+{
+    for (const bool dark : { false, true }) {
+        const ZonePalette p = ZonePalette::forTheme(dark);
+        for (const QColor& ink : { p.text, p.isolation, p.protective, p.wind })
+            EXPECT_GE(contrastRatio(ink, p.background), kMinContrast) << ink.name().toStdString() << (dark ? " dark" : " light");
+        ZoneOptions o;
+        o.dark = dark;
+        EXPECT_TRUE(ProtectiveZone::svg("x", ZoneDistances{ QStringLiteral("30"), QStringLiteral("0.1") }, o).contains(p.background.name()));
     }
 }
 

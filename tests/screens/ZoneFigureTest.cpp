@@ -1,13 +1,10 @@
 // The zone figure on the isolation screen, and the golden figures of the
 // bundled pack. Regenerate the goldens with the update_golden_zone target.
-#include "FixturePack.h"
 #include "GoldenFile.h"
+#include "ScreensSupport.h"
 
-#include "AppLinks.h"
 #include "IsolationTableDelegate.h"
 #include "ZoneFigureController.h"
-#include "model/QORModel.h"
-#include "model/Resources.h"
 
 #include <QFile>
 #include <QSettings>
@@ -15,9 +12,7 @@
 #include <gtest/gtest.h>
 
 using namespace qor;
-using qor::test::FixturePack;
-using qor::test::matchesGolden;
-using qor::test::ModelFixture;
+using namespace qor::test;
 
 namespace {
 
@@ -27,10 +22,7 @@ void forgetChoices()
     QSettings().remove(ProtectiveZone::kSavedUnitsKey);
 }
 
-struct ZoneScreenTest : ::testing::Test {
-    FixturePack pack;
-    std::unique_ptr<ModelFixture> fixture;
-    QORModel* model = nullptr;
+struct ZoneScreenTest : ScreenTest {
     void SetUp() override
     {
         pack.setMaterials({ "CHLORINE^2.3^124^1017^X^^", "CHLOROSILANES^4.3^139^2988^HCl^W^", "ACETONE^3^127^1090^^^" });
@@ -38,12 +30,10 @@ struct ZoneScreenTest : ::testing::Test {
         pack.sql("npg.db", "insert into iso_distances values ('1017',NULL,'100','300','0.5','0.3','2.0','1.3','','','','','','');"
                            "insert into iso_distances values ('2988','','30','100','0.1','0.1','0.2','0.1','100','300','0.5','0.3','1.1','0.7');"
                            "insert into iso_distances values ('2988','Spilled in Water','30','100','0.3','0.2','11+','7+','300','1000','2.9','1.8','9.3','5.8');");
-        fixture = std::make_unique<ModelFixture>();
-        model = QORModel::sharedInstance();
+        load();
         forgetChoices();
     }
     void TearDown() override { forgetChoices(); }
-    MaterialRef material(int unId) { return MaterialRef(firstMaterialWithUnNumber(model->materials(), unId)); }
 };
 
 } // namespace
