@@ -146,7 +146,9 @@ void QORModel::loadData()
     QMutexLocker locker(&m_lock);
     m_loadTimer.stop();
     m_isLoading = true;
-    loadMaterials();
+    // The all-materials filter gets its sections when it is filled below;
+    // the reader adds the new materials to them only when it is not.
+    readMaterials(allFilter->filteredArray && !allFilter->filteredArray->isEmpty());
     // Materials just read hold no caches: loadFilterWithData's release of
     // them is left out here.
     for (const auto& filter : std::as_const(m_filters))
@@ -167,20 +169,47 @@ void QORModel::releaseUnneededMemory()
 // ---------------------------------------------------------------- materials
 
 namespace {
-// Lines and fields are cut by scanning, without lists of views per line.
+// The materials file is cut as UTF-8 bytes: its separators are ASCII, and no
+// byte of a multi-byte character is, so the parts are those of the decoded
+// text. Only the fields a material keeps are decoded.
 template <typename Each>
-void forEachPart(QStringView text, char16_t separator, Each each)
+void forEachPart(std::string_view text, char separator, Each each)
 {
-    qsizetype start = 0;
     for (;;) {
-        const qsizetype end = text.indexOf(QChar(separator), start);
-        if (end < 0) {
-            each(text.mid(start));
+        const void* at = text.empty() ? nullptr : std::memchr(text.data(), separator, text.size());
+        if (!at) {
+            each(text);
             return;
         }
-        each(text.mid(start, end - start));
-        start = end + 1;
+        const size_t end = size_t(static_cast<const char*>(at) - text.data());
+        each(text.substr(0, end));
+        text.remove_prefix(end + 1);
     }
+}
+
+bool isAscii(std::string_view text)
+{
+    for (const char c : text)
+        if (static_cast<unsigned char>(c) >= 0x80)
+            return false;
+    return true;
+}
+
+QString fromUtf8(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+}
+
+// A material's name, capitalised from four characters on; ASCII, nearly
+// every name, is capitalised straight from the file's bytes.
+QString materialName(std::string_view bytes)
+{
+    if (isAscii(bytes)) {
+        const QLatin1String name(bytes.data(), qsizetype(bytes.size()));
+        return name.size() >= 4 ? capitalized(name) : QString(name);
+    }
+    const QString name = fromUtf8(bytes);
+    return name.size() >= 4 ? capitalized(name) : name;
 }
 
 // The prefix index's keys of one name: 0..3 leading characters of its lower
@@ -205,55 +234,145 @@ qsizetype lineCount(const QByteArray& bytes)
     return lines;
 }
 
-// Short fields (guide, placard, UN number, flags) mostly repeat the line
-// before: such a text is shared with the previous material, not made again.
+// Guide, placard and the marks take few distinct values: each is made once
+// and shared by every material carrying it.
+class SharedTexts {
+public:
+    QString operator()(std::string_view text)
+    {
+        if (text.size() > 7)
+            return fromUtf8(text);
+        // The bytes and their count make the key: texts of up to seven bytes.
+        quint64 key = quint64(text.size()) << 56;
+        for (size_t i = 0; i < text.size(); ++i)
+            key |= quint64(static_cast<unsigned char>(text[i])) << (8 * i);
+        auto it = m_texts.constFind(key);
+        if (it == m_texts.cend())
+            it = m_texts.insert(key, fromUtf8(text));
+        return *it;
+    }
+
+private:
+    QHash<quint64, QString> m_texts;
+};
+
+// UN numbers mostly repeat the line before (several names per number): such
+// a text is shared with the previous material, not made again.
 class RepeatedText {
 public:
-    QString operator()(QStringView text)
+    QString operator()(std::string_view text)
     {
-        if (text != m_view || m_text.isNull()) {
-            m_view = text;
-            m_text = text.toString();
+        if (text != m_bytes || m_text.isNull()) {
+            m_bytes = text;
+            m_text = fromUtf8(text);
         }
         return m_text;
     }
 
 private:
-    QStringView m_view;  // into the file's text, which outlives this
+    std::string_view m_bytes;  // into the file's bytes, which outlive this
     QString m_text;
 };
 
-// Alphabetical sections, filled in list order: a material goes under the
-// upper-cased first letter of its name, and a name not starting with a
-// letter goes where the material before it went (nowhere for the first).
-class AlphaSectioning {
-public:
-    explicit AlphaSectioning(QHash<QString, MaterialList>& sections) : m_sections(sections) {}
-    void add(const MaterialPtr& m)
-    {
-        const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
-        if (first.isLetter() && (first != m_letter || !m_section)) {
-            m_section = &m_sections[QString(first)];
-            m_letter = first;
+// Alphabetical sections of list[from..], added in list order: a material
+// goes under the upper-cased first letter of its name, and a name not
+// starting with a letter goes where the material before it went (nowhere
+// for the first). Gathered per letter before they reach the hash, as in a
+// file not sorted by name the letter changes at nearly every row.
+void addAlphaSections(QHash<QString, MaterialList>& sections, const MaterialList& list, qsizetype from = 0)
+{
+    std::vector<std::pair<QChar, MaterialList>> letters;  // in order of first use
+    int asciiSlot[26];
+    std::fill(std::begin(asciiSlot), std::end(asciiSlot), -1);
+    auto slotOf = [&](QChar letter) {
+        const char16_t u = letter.unicode();
+        int* known = u >= 'A' && u <= 'Z' ? &asciiSlot[u - 'A'] : nullptr;
+        if (known && *known >= 0)
+            return *known;
+        if (!known)
+            for (size_t s = 0; s < letters.size(); ++s)
+                if (letters[s].first == letter)
+                    return int(s);
+        letters.emplace_back(letter, MaterialList());
+        const int slot = int(letters.size()) - 1;
+        if (known)
+            *known = slot;
+        return slot;
+    };
+    int slot = -1;
+    QChar letter;
+    for (qsizetype i = from; i < list.size(); ++i) {
+        const MaterialPtr& m = list.at(i);
+        const char16_t u = m->name.isEmpty() ? 0 : m->name.front().unicode();
+        QChar first;
+        bool isLetter;
+        if (u < 0x80) {
+            first = QChar(u >= 'a' && u <= 'z' ? char16_t(u - 32) : u);
+            isLetter = first >= u'A' && first <= u'Z';
+        } else {
+            first = QChar(u).toUpper();
+            isLetter = first.isLetter();
         }
-        if (m_section)
-            m_section->append(m);
+        if (isLetter && (slot < 0 || first != letter)) {
+            slot = slotOf(first);
+            letter = first;
+        }
+        if (slot >= 0)
+            letters[size_t(slot)].second.append(m);
     }
+    for (auto& [first, members] : letters) {
+        MaterialList& section = sections[QString(first)];
+        if (section.isEmpty())
+            section = std::move(members);
+        else
+            section.append(members);
+    }
+}
 
-private:
-    QHash<QString, MaterialList>& m_sections;
-    MaterialList* m_section = nullptr;
-    QChar m_letter;
-};
+// The materials at the given places of all, each pointer copied once.
+MaterialList materialsAt(const MaterialList& all, const std::vector<int>& places)
+{
+    MaterialList out(qsizetype(places.size()));
+    MaterialPtr* o = out.data();
+    for (const int i : places)
+        *o++ = all.at(i);
+    return out;
+}
+
+// Sections of a sorted list (sorted[j] is the material at order[j]):
+// neighbours mostly share theirs, so each run of equal keys is copied into
+// its section in one piece. keyOf takes a material's place.
+template <typename KeyOf, typename SectionName>
+void addSectionRuns(QHash<QString, MaterialList>& sections, const MaterialList& sorted, const std::vector<int>& order,
+                    KeyOf keyOf, SectionName sectionName)
+{
+    for (size_t start = 0; start < order.size();) {
+        const auto key = keyOf(order[start]);
+        size_t end = start + 1;
+        while (end < order.size() && keyOf(order[end]) == key)
+            ++end;
+        const MaterialList run(sorted.constBegin() + qsizetype(start), sorted.constBegin() + qsizetype(end));
+        MaterialList& section = sections[sectionName(key)];
+        if (section.isEmpty())
+            section = run;
+        else
+            section.append(run);
+        start = end;
+    }
+}
 } // namespace
 
 void QORModel::loadMaterials()
+{
+    readMaterials(true);
+}
+
+void QORModel::readMaterials(bool withAllSections)
 {
     QFile file(Resources::path(QStringLiteral("chemicals_2024.csv")));
     if (!file.open(QIODevice::ReadOnly))
         return;
     const QByteArray bytes = file.readAll();
-    const QString text = QString::fromUtf8(bytes);
     m_sharedOrders.reset();
 
     // The same texts for every material: translated once.
@@ -277,18 +396,22 @@ void QORModel::loadMaterials()
         // Deliberately false even when the guide carries the "P" suffix.
         attributeSets[bits].insert(polymerizeKey, false);
     }
-    RepeatedText placardText, guideText, unIdText, tihText2, waterText, warfareText2;
+    SharedTexts texts;
+    RepeatedText unIdText;
 
-    Filter& all = *allFilter;
-    AlphaSectioning sections(all.alphaSections);
     int lineNumber = 0;
     const qsizetype firstNew = m_materials.size();
-    m_materials.reserve(m_materials.size() + lineCount(bytes));
-    forEachPart(text, u'\n', [&](QStringView line) {
+    const qsizetype lines = lineCount(bytes);
+    // The file's materials in one allocation; each pointer to one of them
+    // shares the ownership of all.
+    auto block = std::make_shared<std::vector<Material>>();
+    block->reserve(size_t(lines));
+    m_materials.reserve(firstNew + lines);
+    forEachPart(std::string_view(bytes.constData(), size_t(bytes.size())), '\n', [&](std::string_view line) {
         ++lineNumber;
-        QStringView fields[8];
+        std::string_view fields[8];
         int count = 0;
-        forEachPart(line, u'^', [&](QStringView f) {
+        forEachPart(line, '^', [&](std::string_view f) {
             if (count < 8)
                 fields[count] = f;
             ++count;
@@ -298,43 +421,45 @@ void QORModel::loadMaterials()
         if (count == 6) {
             // Every data line must carry the seventh field; the data is broken.
             qCritical().noquote() << QStringLiteral("materials file line %1 has 6 fields").arg(lineNumber);
-            qCritical().noquote() << line.toString();
+            qCritical().noquote() << fromUtf8(line);
             std::abort();
         }
-        auto m = std::make_shared<Material>();
-        const QStringView name = fields[0];
-        m->name = name.size() >= 4 ? capitalized(name) : name.toString();
-        m->placardId = placardText(fields[1]);
-        QStringView guide = fields[2];
-        if (guide.endsWith(u'P')) {
-            m->mayPolymerize = true;
-            guide = guide.left(3);
+        Material& m = block->emplace_back();
+        m.name = materialName(fields[0]);
+        m.placardId = texts(fields[1]);
+        const std::string_view guide = fields[2];
+        if (!guide.empty() && guide.back() == 'P') {
+            m.mayPolymerize = true;
+            m.guideId = isAscii(guide) ? texts(guide.substr(0, 3)) : fromUtf8(guide).left(3);
+        } else {
+            m.guideId = texts(guide);
         }
-        m->guideId = guideText(guide);
-        m->unId = unIdText(fields[3]);
+        m.unId = unIdText(fields[3]);
         int attributes = 0;
-        if (!fields[4].isEmpty()) {
-            m->toxicInhalationHazard = tihText2(fields[4]);
+        if (!fields[4].empty()) {
+            m.toxicInhalationHazard = texts(fields[4]);
             attributes |= Tih;
         }
-        if (!fields[5].isEmpty()) {
-            m->waterReactive = waterText(fields[5]);
+        if (!fields[5].empty()) {
+            m.waterReactive = texts(fields[5]);
             attributes |= WaterReactive;
         }
-        if (!fields[6].isEmpty()) {
-            if (fields[6] == u"M")
-                m->methLab = true;
+        if (!fields[6].empty()) {
+            if (fields[6] == "M")
+                m.methLab = true;
             else
-                m->chemicalWarefareAgent = warfareText2(fields[6]);
-            if (fields[6] != u"M" && fields[6] != u"X" && fields[6] != u" ")
+                m.chemicalWarefareAgent = texts(fields[6]);
+            if (fields[6] != "M" && fields[6] != "X" && fields[6] != " ")
                 attributes |= Warfare;
         }
-        m->qorAttributes = attributeSets[attributes];
-
-        sections.add(m);
-        m_materials.append(std::move(m));
+        m.qorAttributes = attributeSets[attributes];
+        m_materials.emplaceBack(block, &m);
     });
+    Filter& all = *allFilter;
+    if (withAllSections)
+        addAlphaSections(all.alphaSections, m_materials, firstNew);
     all.invalidateSectionKeys();
+
     // Prefix index: keys of 0..3 leading characters; short names use length-1.
     // Neighbouring names mostly share their keys, so each level remembers its
     // last list; lists are gathered where adding keys moves no list, then
@@ -346,6 +471,9 @@ void QORModel::loadMaterials()
         std::u16string_view key;
         MaterialList* list = nullptr;
     } levels[4];
+    // Every name has the key "" at level 0; a name whose lower case has at
+    // most one character has it at all four levels.
+    std::vector<qsizetype> shortNames;
     for (qsizetype i = firstNew; i < m_materials.size(); ++i) {
         const MaterialPtr& m = m_materials.at(i);
         // ASCII, the usual case, is lowered on the stack.
@@ -359,8 +487,12 @@ void QORModel::loadMaterials()
         }
         const QString other = isAscii ? QString() : lowerPrefix(m->name);
         const QStringView lower = isAscii ? QStringView(ascii, take) : QStringView(other);
-        for (int k = 0; k <= 3; ++k) {
-            const qsizetype len = std::max<qsizetype>(lower.size() <= k ? lower.size() - 1 : k, 0);
+        if (lower.size() <= 1) {
+            shortNames.push_back(i);
+            continue;
+        }
+        for (int k = 1; k <= 3; ++k) {
+            const qsizetype len = lower.size() <= k ? lower.size() - 1 : k;
             const std::u16string_view key(reinterpret_cast<const char16_t*>(lower.utf16()), size_t(len));
             Level& level = levels[k];
             if (!level.list || level.key != key) {
@@ -369,6 +501,22 @@ void QORModel::loadMaterials()
                 level.list = &it->second;
             }
             level.list->append(m);
+        }
+    }
+    if (firstNew < m_materials.size()) {
+        // Without short names, the list of "" is the new materials themselves.
+        MaterialList& everyName = lists[std::u16string()];
+        if (shortNames.empty()) {
+            everyName = firstNew == 0 ? m_materials : m_materials.sliced(firstNew);
+        } else {
+            everyName.reserve(m_materials.size() - firstNew + 3 * qsizetype(shortNames.size()));
+            auto nextShort = shortNames.cbegin();
+            for (qsizetype i = firstNew; i < m_materials.size(); ++i) {
+                const bool isShort = nextShort != shortNames.cend() && *nextShort == i;
+                nextShort += isShort;
+                for (int times = isShort ? 4 : 1; times > 0; --times)
+                    everyName.append(m_materials.at(i));
+            }
         }
     }
     all.alphaIndex.clear();
@@ -729,11 +877,15 @@ const QORModel::SharedOrders& QORModel::sharedOrders()
     // Sort keys computed once per material rather than in every comparison.
     const size_t count = static_cast<size_t>(n);
     std::vector<int> guide(count), incidents(count), unId(count);
+    orders.unIdBucket.resize(count);
     for (int i = 0; i < n; ++i) {
         const Material& m = *m_materials.at(i);
         guide[size_t(i)] = leadingInt(m.guideId);
         incidents[size_t(i)] = m.numIncidents();
         unId[size_t(i)] = leadingInt(m.unId);
+        // Warfare agents go under " No Id" whatever their number.
+        const int number = m.chemicalWarefareAgent && *m.chemicalWarefareAgent == QLatin1String("Z") ? 0 : unId[size_t(i)];
+        orders.unIdBucket[size_t(i)] = number == 0 ? SharedOrders::kNoId : (number / 100) * 100;
     }
     auto sortedBy = [n](const std::vector<int>& key, bool descending) {
         std::vector<int> order(static_cast<size_t>(n));
@@ -779,10 +931,7 @@ void QORModel::fillFilter(Filter& filter)
     filter.unIdSections.clear();
     filter.filteredArray = getMaterialsUsingFilter(filter);
     const MaterialList& list = *filter.filteredArray;
-
-    AlphaSectioning alpha(filter.alphaSections);
-    for (const auto& m : list)
-        alpha.add(m);
+    addAlphaSections(filter.alphaSections, list);
 
     // The filter's members, by their place among all materials; the whole
     // list when the filter has every material.
@@ -806,43 +955,30 @@ void QORModel::fillFilter(Filter& filter)
                 member[size_t(i)] = members.contains(m_materials.at(i).get());
         }
     }
-    auto restricted = [&](const std::vector<int>& order) {
-        MaterialList out;
-        out.reserve(list.size());
+    // A shared order restricted to the members; valid until the next call.
+    std::vector<int> places;
+    auto restricted = [&](const std::vector<int>& order) -> const std::vector<int>& {
+        if (everything)
+            return order;
+        places.clear();
         for (const int i : order)
-            if (everything || member[size_t(i)])
-                out.append(m_materials.at(i));
-        return out;
+            if (member[size_t(i)])
+                places.push_back(i);
+        return places;
     };
-    filter.guideSortedArray = restricted(orders.byGuide);
-    filter.incidentsSortedArray = restricted(orders.byIncidents);
-    filter.unIdSortedArray = restricted(orders.byUnId);
+    filter.incidentsSortedArray = materialsAt(m_materials, restricted(orders.byIncidents));
 
-    // Sections: neighbours in a sorted list mostly share theirs, so the last
-    // one is kept rather than looked up again.
-    MaterialList* section = nullptr;
-    const QString* sectionKey = nullptr;
-    for (const auto& m : std::as_const(filter.guideSortedArray)) {
-        if (!section || *sectionKey != m->guideId) {
-            section = &filter.guideSections[m->guideId];
-            sectionKey = &m->guideId;
-        }
-        section->append(m);
-    }
-    section = nullptr;
-    int hundred = -1;
-    for (const auto& m : std::as_const(filter.unIdSortedArray)) {
-        int n = leadingInt(m->unId);
-        if (m->chemicalWarefareAgent && *m->chemicalWarefareAgent == QLatin1String("Z"))
-            n = 0;
-        const int bucket = n == 0 ? -2 : (n / 100) * 100;
-        if (!section || bucket != hundred) {
-            const QString key = n == 0 ? QStringLiteral(" No Id") : QString::number(bucket);
-            section = &filter.unIdSections[key];
-            hundred = bucket;
-        }
-        section->append(m);
-    }
+    const std::vector<int>& byGuide = restricted(orders.byGuide);
+    filter.guideSortedArray = materialsAt(m_materials, byGuide);
+    addSectionRuns(
+        filter.guideSections, filter.guideSortedArray, byGuide,
+        [&](int i) -> const QString& { return m_materials.at(i)->guideId; }, [](const QString& guide) { return guide; });
+
+    const std::vector<int>& byUnId = restricted(orders.byUnId);
+    filter.unIdSortedArray = materialsAt(m_materials, byUnId);
+    addSectionRuns(
+        filter.unIdSections, filter.unIdSortedArray, byUnId, [&](int i) { return orders.unIdBucket[size_t(i)]; },
+        [](int bucket) { return bucket == SharedOrders::kNoId ? QStringLiteral(" No Id") : QString::number(bucket); });
     filter.invalidateSectionKeys();
     logMemory("after filter rebuild");
 }

@@ -186,10 +186,16 @@ private:
     struct SharedOrders {
         qsizetype count = 0;  // of materials
         std::vector<int> byGuide, byIncidents, byUnId;
+        // Each material's hundred of UN numbers (its section), or kNoId.
+        static constexpr int kNoId = -2;
+        std::vector<int> unIdBucket;
     };
     std::optional<SharedOrders> m_sharedOrders;
     const SharedOrders& sharedOrders();
     void fillFilter(Filter& filter);
+    // loadMaterials, adding the new materials to the all-materials filter's
+    // sections only when asked (loadData fills that filter afresh).
+    void readMaterials(bool withAllSections);
     std::optional<MaterialList> m_loadingMaterials;
     std::optional<bool> m_packHasLargeSpillRows;
     QRecursiveMutex m_lock;

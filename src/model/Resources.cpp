@@ -88,25 +88,33 @@ int leadingInt(const QString& text)
     return int(negative ? -value : value);
 }
 
-QString capitalized(QStringView text)
+namespace {
+// Capitalises n characters of in (UTF-16 units or Latin-1 bytes) into one new text.
+template <typename Char>
+QString capitalizedText(const Char* in, qsizetype n)
 {
+    // ASCII, nearly every name, through a table instead of the Unicode
+    // tables: 0 for a character that ends a word, else its upper case
+    // (with the lower case 32 above it for letters).
+    static constexpr auto kAscii = [] {
+        struct { char16_t upper[128]; char16_t lower[128]; } t{};
+        for (char16_t c = 0; c < 128; ++c) {
+            const bool up = c >= 'A' && c <= 'Z', low = c >= 'a' && c <= 'z', digit = c >= '0' && c <= '9';
+            t.upper[c] = low ? char16_t(c - 32) : (up || digit) ? c : 0;
+            t.lower[c] = up ? char16_t(c + 32) : (low || digit) ? c : 0;
+        }
+        return t;
+    }();
     // Written in place: one allocation per text.
-    QString out(text.size(), Qt::Uninitialized);
+    QString out(n, Qt::Uninitialized);
     char16_t* o = reinterpret_cast<char16_t*>(out.data());
-    const char16_t* in = reinterpret_cast<const char16_t*>(text.utf16());
     bool startOfWord = true;
-    for (qsizetype i = 0, n = text.size(); i < n; ++i) {
-        const char16_t u = in[i];
-        // ASCII, nearly every name, without the Unicode tables.
+    for (qsizetype i = 0; i < n; ++i) {
+        const char16_t u = char16_t(in[i]);
         if (u < 0x80) {
-            const bool upper = u >= 'A' && u <= 'Z', lower = u >= 'a' && u <= 'z';
-            if (upper || lower || (u >= '0' && u <= '9')) {
-                o[i] = startOfWord ? (lower ? char16_t(u - 32) : u) : (upper ? char16_t(u + 32) : u);
-                startOfWord = false;
-            } else {
-                o[i] = u;
-                startOfWord = true;
-            }
+            const char16_t c = startOfWord ? kAscii.upper[u] : kAscii.lower[u];
+            o[i] = c ? c : u;
+            startOfWord = c == 0;
             continue;
         }
         const QChar c(u);
@@ -119,6 +127,17 @@ QString capitalized(QStringView text)
         }
     }
     return out;
+}
+} // namespace
+
+QString capitalized(QStringView text)
+{
+    return capitalizedText(reinterpret_cast<const char16_t*>(text.utf16()), text.size());
+}
+
+QString capitalized(QLatin1String text)
+{
+    return capitalizedText(reinterpret_cast<const unsigned char*>(text.data()), text.size());
 }
 
 QString capitalized(const QString& text)

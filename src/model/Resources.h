@@ -39,5 +39,6 @@ int leadingInt(const QString& text);
 // Word-by-word capitalisation: first letter of each word upper case, the rest lower.
 QString capitalized(const QString& text);
 QString capitalized(QStringView text);
+QString capitalized(QLatin1String text);
 
 } // namespace qor

@@ -35,12 +35,19 @@ TEST(MaterialsFile, NamesMarksAndCaptions)
         "MUSTARD^6.1^153^2810^^^X",
         "LEWISITE^6.1^153^2810^^^ ",
         "SODIUM^4.3^138^1428^^W^",
+        "ÉTHER DIÉTHYLIQUE^3^127P^1155^^^",
+        "ıAB^3^127^1155^^^",
     });
     ModelFixture model;
 
-    ASSERT_EQ(QORModel::sharedInstance()->materials().size(), 8);
+    ASSERT_EQ(QORModel::sharedInstance()->materials().size(), 10);
     EXPECT_TRUE(byName("AC")) << "short names are kept as written";
+    EXPECT_TRUE(byName("ıAB")) << "short names are kept as written";
     EXPECT_TRUE(byName("Acetic Acid, Glacial"));
+    auto ether = byName("Éther Diéthylique");
+    ASSERT_TRUE(ether) << "names beyond ASCII are capitalised too";
+    EXPECT_EQ(ether->guideId, "127");
+    EXPECT_TRUE(ether->mayPolymerize);
 
     auto acrolein = byName("Acrolein, Stabilized");
     ASSERT_TRUE(acrolein);
@@ -125,7 +132,7 @@ TEST(MaterialsFile, PrefixKeysAreThoseOfTheWholeNameInLowerCase)
 {
     // Names whose lower case differs from letter-by-letter ASCII, is longer
     // than the name, or is short; neighbours share keys, then stop sharing.
-    const QStringList given{ "ÉTHER DIÉTHYLIQUE", "ÉTHANOL", "İSOPRENE", "İS", "ÆB", "AB", "ABCDEF", "ABCXYZ", "ABD" };
+    const QStringList given{ "ÉTHER DIÉTHYLIQUE", "ÉTHANOL", "İSOPRENE", "İS", "A", "ÆB", "AB", "ABCDEF", "", "ABCXYZ", "ABD" };
     QStringList lines;
     for (const QString& n : given)
         lines << n + "^3^127^1090^^^";
