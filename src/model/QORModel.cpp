@@ -8,6 +8,8 @@
 #include <QSet>
 #include <QStringDecoder>
 #include <algorithm>
+#include <bit>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -234,21 +236,35 @@ qsizetype lineCount(const QByteArray& bytes)
     return lines;
 }
 
+// A short text as one number: up to seven characters below 0x100 and their
+// count. None for other texts.
+template <typename Char>
+std::optional<quint64> packedText(const Char* text, size_t size)
+{
+    if (size > 7)
+        return std::nullopt;
+    quint64 key = quint64(size) << 56;
+    for (size_t i = 0; i < size; ++i) {
+        const auto unit = static_cast<std::make_unsigned_t<Char>>(text[i]);
+        if (unit > 0xff)
+            return std::nullopt;
+        key |= quint64(unit) << (8 * i);
+    }
+    return key;
+}
+
 // Guide, placard and the marks take few distinct values: each is made once
 // and shared by every material carrying it.
 class SharedTexts {
 public:
     QString operator()(std::string_view text)
     {
-        if (text.size() > 7)
+        const std::optional<quint64> key = packedText(text.data(), text.size());
+        if (!key)
             return fromUtf8(text);
-        // The bytes and their count make the key: texts of up to seven bytes.
-        quint64 key = quint64(text.size()) << 56;
-        for (size_t i = 0; i < text.size(); ++i)
-            key |= quint64(static_cast<unsigned char>(text[i])) << (8 * i);
-        auto it = m_texts.constFind(key);
+        auto it = m_texts.constFind(*key);
         if (it == m_texts.cend())
-            it = m_texts.insert(key, fromUtf8(text));
+            it = m_texts.insert(*key, fromUtf8(text));
         return *it;
     }
 
@@ -328,6 +344,52 @@ void addAlphaSections(QHash<QString, MaterialList>& sections, const MaterialList
             section.append(members);
     }
 }
+
+// The incident counts by UN number, for looking up every material's in a
+// row: a flat table of short numbers, where the model's hash compares texts
+// held apart in memory. Other numbers are looked up in the hash.
+class IncidentCounts {
+public:
+    explicit IncidentCounts(const QHash<QString, int>& counts) : m_counts(counts)
+    {
+        while (m_slots.size() < 2 * size_t(counts.size()))  // at most half full
+            m_slots.resize(std::max<size_t>(16, 2 * m_slots.size()));
+        m_shift = 64 - std::countr_zero(std::max<size_t>(m_slots.size(), 1));
+        for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+            if (const auto key = packed(it.key()))
+                *find(*key) = { *key, it.value() };
+    }
+    int value(const QString& unId) const
+    {
+        const auto key = packed(unId);
+        if (!key)
+            return m_counts.value(unId, 0);
+        const Slot* slot = m_slots.empty() ? nullptr : find(*key);
+        return slot && slot->key == *key ? slot->count : 0;
+    }
+
+private:
+    struct Slot {
+        quint64 key = kEmpty;
+        int count = 0;
+    };
+    static constexpr quint64 kEmpty = ~quint64(0);  // no packed text has a count of 0xff
+    static std::optional<quint64> packed(const QString& text)
+    {
+        return packedText(reinterpret_cast<const char16_t*>(text.constData()), size_t(text.size()));
+    }
+    // The key's slot, or the empty one where it would go.
+    Slot* find(quint64 key) const
+    {
+        size_t at = size_t((key * 0x9E3779B97F4A7C15ull) >> m_shift);
+        while (m_slots[at].key != kEmpty && m_slots[at].key != key)
+            at = (at + 1) & (m_slots.size() - 1);
+        return const_cast<Slot*>(&m_slots[at]);
+    }
+    const QHash<QString, int>& m_counts;
+    std::vector<Slot> m_slots;
+    int m_shift = 64;
+};
 
 // The materials at the given places of all, each pointer copied once.
 MaterialList materialsAt(const MaterialList& all, const std::vector<int>& places)
@@ -464,11 +526,17 @@ void QORModel::readMaterials(bool withAllSections)
     // Neighbouring names mostly share their keys, so each level remembers its
     // last list; lists are gathered where adding keys moves no list, then
     // handed to the index.
-    // Keys of up to three characters fit std::u16string's own buffer: no
-    // allocation per key, and comparing one is comparing a few characters.
-    std::unordered_map<std::u16string, MaterialList> lists;
+    // A key of up to three UTF-16 units and its length fit one 64-bit
+    // number: no text per key, and comparing or hashing one is one step.
+    const auto packedKey = [](QStringView text, qsizetype len) {
+        quint64 key = quint64(len) << 48;
+        for (qsizetype c = 0; c < len; ++c)
+            key |= quint64(text.at(c).unicode()) << (16 * c);
+        return key;
+    };
+    std::unordered_map<quint64, MaterialList> lists;
     struct Level {
-        std::u16string_view key;
+        quint64 key = 0;
         MaterialList* list = nullptr;
     } levels[4];
     // Every name has the key "" at level 0; a name whose lower case has at
@@ -492,20 +560,18 @@ void QORModel::readMaterials(bool withAllSections)
             continue;
         }
         for (int k = 1; k <= 3; ++k) {
-            const qsizetype len = lower.size() <= k ? lower.size() - 1 : k;
-            const std::u16string_view key(reinterpret_cast<const char16_t*>(lower.utf16()), size_t(len));
+            const quint64 key = packedKey(lower, lower.size() <= k ? lower.size() - 1 : k);
             Level& level = levels[k];
             if (!level.list || level.key != key) {
-                auto it = lists.try_emplace(std::u16string(key)).first;
-                level.key = it->first;  // the map's node keeps the text in place
-                level.list = &it->second;
+                level.key = key;
+                level.list = &lists[key];  // a node of the map stays in place
             }
             level.list->append(m);
         }
     }
     if (firstNew < m_materials.size()) {
         // Without short names, the list of "" is the new materials themselves.
-        MaterialList& everyName = lists[std::u16string()];
+        MaterialList& everyName = lists[packedKey({}, 0)];
         if (shortNames.empty()) {
             everyName = firstNew == 0 ? m_materials : m_materials.sliced(firstNew);
         } else {
@@ -521,8 +587,13 @@ void QORModel::readMaterials(bool withAllSections)
     }
     all.alphaIndex.clear();
     all.alphaIndex.reserve(qsizetype(lists.size()));
-    for (auto& [key, list] : lists)
-        all.alphaIndex.insert(QString::fromUtf16(key.data(), qsizetype(key.size())), std::move(list));
+    for (auto& [key, list] : lists) {
+        const qsizetype len = qsizetype(key >> 48);
+        QString text(len, Qt::Uninitialized);
+        for (qsizetype c = 0; c < len; ++c)
+            text[c] = QChar(char16_t(key >> (16 * c)));
+        all.alphaIndex.insert(text, std::move(list));
+    }
 }
 
 const QHash<QString, int>& QORModel::getMaterialsWithIncidents()
@@ -878,11 +949,14 @@ const QORModel::SharedOrders& QORModel::sharedOrders()
     const size_t count = static_cast<size_t>(n);
     std::vector<int> guide(count), incidents(count), unId(count);
     orders.unIdBucket.resize(count);
+    // Material::numIncidents, with the counts looked up in a flat table.
+    const IncidentCounts counts(getMaterialsWithIncidents());
     for (int i = 0; i < n; ++i) {
         const Material& m = *m_materials.at(i);
         guide[size_t(i)] = leadingInt(m.guideId);
-        incidents[size_t(i)] = m.numIncidents();
         unId[size_t(i)] = leadingInt(m.unId);
+        const bool carries = !m.unId.isEmpty() && m.carriesIncidentsOfNumber(unId[size_t(i)]);
+        incidents[size_t(i)] = carries ? counts.value(m.unId) : 0;
         // Warfare agents go under " No Id" whatever their number.
         const int number = m.chemicalWarefareAgent && *m.chemicalWarefareAgent == QLatin1String("Z") ? 0 : unId[size_t(i)];
         orders.unIdBucket[size_t(i)] = number == 0 ? SharedOrders::kNoId : (number / 100) * 100;

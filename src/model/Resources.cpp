@@ -69,7 +69,8 @@ void Preferences::setLanguageOverride(const QString& lang)
 
 int leadingInt(const QString& text)
 {
-    const char16_t* p = reinterpret_cast<const char16_t*>(text.utf16());
+    // constData, not utf16: no call, and the digits need no terminating null.
+    const char16_t* p = reinterpret_cast<const char16_t*>(text.constData());
     const qsizetype n = text.size();
     qsizetype i = 0;
     while (i < n && (p[i] == u' ' || QChar(p[i]).isSpace()))

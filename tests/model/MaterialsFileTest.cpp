@@ -99,9 +99,12 @@ TEST(MaterialsFile, IncidentCountsFollowTheGenericNameRules)
         "POISONOUS LIQUID, ORGANIC, N.O.S.^6.1^153^2810^^^",
         "ACETONE^3^127^1090^^^",
         "NO NUMBER^3^127^^^^",
+        "ZERO PADDED^3^127^01090^^^",
+        "LONG NUMBER^3^127^NA1090-12^^^",
     });
     pack.sql("hazmat_incidents.dat",
-             "insert into incidents (un_id) values ('1993'),('1993'),('1760'),('2810'),('2810'),('2810'),('1090');");
+             "insert into incidents (un_id) values ('1993'),('1993'),('1760'),('2810'),('2810'),('2810'),('1090'),"
+             "('NA1090-12'),('NA1090-12'),('NA1090-12'),('NA1090-12');");
     ModelFixture model;
     auto count = [](const char* name) { return byName(name)->numIncidents(); };
     EXPECT_EQ(count("Flammable Liquid, N.O.S."), 2);
@@ -109,6 +112,12 @@ TEST(MaterialsFile, IncidentCountsFollowTheGenericNameRules)
     EXPECT_EQ(count("Corrosive Liquid, Acidic, N.O.S."), 0);
     EXPECT_EQ(count("Poisonous Liquid, Organic, N.O.S."), 3);
     EXPECT_EQ(count("No Number"), 0);
+    EXPECT_EQ(count("Zero Padded"), 0) << "the number's text must match, not its value";
+    EXPECT_EQ(count("Long Number"), 4);
+    // The incidents order counts the same way, ties in file order.
+    const QStringList byIncidents = names(QORModel::sharedInstance()->allFilter->incidentsSortedArray);
+    EXPECT_EQ(byIncidents.mid(0, 5), QStringList({ "Long Number", "Poisonous Liquid, Organic, N.O.S.", "Flammable Liquid, N.O.S.",
+                                                   "Corrosive Liquid, N.O.S.", "Acetone" }));
 }
 
 TEST(MaterialsFile, ClassAndDescriptionFromTheChemistryDatabase)
