@@ -202,17 +202,76 @@ QString fromUtf8(std::string_view text)
     return QString::fromUtf8(text.data(), qsizetype(text.size()));
 }
 
-// A material's name, capitalised from four characters on; ASCII, nearly
-// every name, is capitalised straight from the file's bytes.
-QString materialName(std::string_view bytes)
-{
-    if (isAscii(bytes)) {
-        const QLatin1String name(bytes.data(), qsizetype(bytes.size()));
-        return name.size() >= 4 ? capitalized(name) : QString(name);
+// The names and UN numbers of a file's materials, written one after another
+// into one buffer: one allocation for them all instead of one per text.
+// Each text is a QString pointing into the buffer and holding a reference to
+// it, ended by a null like any other; changing one copies it out first, as
+// the buffer is shared.
+class TextBlock {
+public:
+    // Room for texts of capacity characters and a null each.
+    explicit TextBlock(qsizetype capacity) : m_buffer(capacity, Qt::Uninitialized)
+    {
+        m_next = reinterpret_cast<char16_t*>(m_buffer.data());  // before it is shared
+        m_end = m_next + capacity;
     }
-    const QString name = fromUtf8(bytes);
-    return name.size() >= 4 ? capitalized(name) : name;
-}
+    // A material's name, capitalised from four characters on; ASCII, nearly
+    // every name, is capitalised straight from the file's bytes.
+    QString name(std::string_view bytes)
+    {
+        if (!isAscii(bytes)) {
+            const QString name = fromUtf8(bytes);
+            return copied(name.size() >= 4 ? capitalized(name) : name);
+        }
+        const QLatin1String name(bytes.data(), qsizetype(bytes.size()));
+        char16_t* at = room(name.size());
+        if (!at)
+            return name.size() >= 4 ? capitalized(QString(name)) : QString(name);
+        if (name.size() >= 4)
+            capitalizeInto(name, at);
+        else
+            widen(name, at);
+        return made(at, name.size());
+    }
+    QString text(std::string_view bytes)
+    {
+        if (!isAscii(bytes))
+            return copied(fromUtf8(bytes));
+        const QLatin1String text(bytes.data(), qsizetype(bytes.size()));
+        char16_t* at = room(text.size());
+        if (!at)
+            return QString(text);
+        widen(text, at);
+        return made(at, text.size());
+    }
+
+private:
+    static void widen(QLatin1String text, char16_t* out)
+    {
+        for (qsizetype i = 0; i < text.size(); ++i)
+            out[i] = static_cast<unsigned char>(text.data()[i]);
+    }
+    char16_t* room(qsizetype size) const { return size < m_end - m_next ? m_next : nullptr; }
+    QString made(char16_t* at, qsizetype size)
+    {
+        at[size] = 0;
+        m_next = at + size + 1;
+        QStringPrivate& buffer = m_buffer.data_ptr();
+        buffer.ref();
+        return QString(QStringPrivate(buffer.d_ptr(), at, size));
+    }
+    QString copied(const QString& text)
+    {
+        char16_t* at = room(text.size());
+        if (!at)
+            return text;
+        std::copy_n(reinterpret_cast<const char16_t*>(text.constData()), text.size(), at);
+        return made(at, text.size());
+    }
+    QString m_buffer;
+    char16_t* m_next = nullptr;
+    char16_t* m_end = nullptr;
+};
 
 // The prefix index's keys of one name: 0..3 leading characters of its lower
 // case, short names using one character fewer than they have. Lower case can
@@ -253,6 +312,58 @@ std::optional<quint64> packedText(const Char* text, size_t size)
     return key;
 }
 
+// A table keyed by packed texts, flat and probed in a row: a look-up is a
+// multiplication and a comparison or two, with no text to compare.
+template <typename Value>
+class PackedTable {
+public:
+    explicit PackedTable(size_t expected = 0)
+    {
+        size_t size = 16;
+        while (size < 2 * expected)  // at most half full
+            size *= 2;
+        m_slots.resize(size);
+        m_shift = 64 - std::countr_zero(size);
+    }
+    const Value* find(quint64 key) const
+    {
+        const Slot& slot = m_slots[indexOf(key)];
+        return slot.key == key ? &slot.value : nullptr;
+    }
+    Value& insert(quint64 key, Value value)
+    {
+        if (2 * (m_used + 1) > m_slots.size()) {
+            PackedTable grown(m_slots.size());
+            for (Slot& slot : m_slots)
+                if (slot.key != kEmpty)
+                    grown.insert(slot.key, std::move(slot.value));
+            *this = std::move(grown);
+        }
+        Slot& slot = m_slots[indexOf(key)];
+        m_used += slot.key == kEmpty;
+        slot = { key, std::move(value) };
+        return slot.value;
+    }
+
+private:
+    static constexpr quint64 kEmpty = ~quint64(0);  // no packed text has a count of 0xff
+    struct Slot {
+        quint64 key = kEmpty;
+        Value value{};
+    };
+    // The key's slot, or the empty one where it would go.
+    size_t indexOf(quint64 key) const
+    {
+        size_t at = size_t((key * 0x9E3779B97F4A7C15ull) >> m_shift);
+        while (m_slots[at].key != kEmpty && m_slots[at].key != key)
+            at = (at + 1) & (m_slots.size() - 1);
+        return at;
+    }
+    std::vector<Slot> m_slots;
+    size_t m_used = 0;
+    int m_shift = 64;
+};
+
 // Guide, placard and the marks take few distinct values: each is made once
 // and shared by every material carrying it.
 class SharedTexts {
@@ -262,30 +373,31 @@ public:
         const std::optional<quint64> key = packedText(text.data(), text.size());
         if (!key)
             return fromUtf8(text);
-        auto it = m_texts.constFind(*key);
-        if (it == m_texts.cend())
-            it = m_texts.insert(*key, fromUtf8(text));
-        return *it;
+        if (const QString* known = m_texts.find(*key))
+            return *known;
+        return m_texts.insert(*key, fromUtf8(text));
     }
 
 private:
-    QHash<quint64, QString> m_texts;
+    PackedTable<QString> m_texts;
 };
 
 // UN numbers mostly repeat the line before (several names per number): such
 // a text is shared with the previous material, not made again.
 class RepeatedText {
 public:
+    explicit RepeatedText(TextBlock& block) : m_block(block) {}
     QString operator()(std::string_view text)
     {
         if (text != m_bytes || m_text.isNull()) {
             m_bytes = text;
-            m_text = fromUtf8(text);
+            m_text = m_block.text(text);
         }
         return m_text;
     }
 
 private:
+    TextBlock& m_block;
     std::string_view m_bytes;  // into the file's bytes, which outlive this
     QString m_text;
 };
@@ -319,7 +431,7 @@ void addAlphaSections(QHash<QString, MaterialList>& sections, const MaterialList
     QChar letter;
     for (qsizetype i = from; i < list.size(); ++i) {
         const MaterialPtr& m = list.at(i);
-        const char16_t u = m->name.isEmpty() ? 0 : m->name.front().unicode();
+        const char16_t u = m->name.isEmpty() ? 0 : m->name.at(0).unicode();
         QChar first;
         bool isLetter;
         if (u < 0x80) {
@@ -350,45 +462,28 @@ void addAlphaSections(QHash<QString, MaterialList>& sections, const MaterialList
 // held apart in memory. Other numbers are looked up in the hash.
 class IncidentCounts {
 public:
-    explicit IncidentCounts(const QHash<QString, int>& counts) : m_counts(counts)
+    explicit IncidentCounts(const QHash<QString, int>& counts) : m_counts(counts), m_packed(size_t(counts.size()))
     {
-        while (m_slots.size() < 2 * size_t(counts.size()))  // at most half full
-            m_slots.resize(std::max<size_t>(16, 2 * m_slots.size()));
-        m_shift = 64 - std::countr_zero(std::max<size_t>(m_slots.size(), 1));
         for (auto it = counts.cbegin(); it != counts.cend(); ++it)
             if (const auto key = packed(it.key()))
-                *find(*key) = { *key, it.value() };
+                m_packed.insert(*key, it.value());
     }
     int value(const QString& unId) const
     {
         const auto key = packed(unId);
         if (!key)
             return m_counts.value(unId, 0);
-        const Slot* slot = m_slots.empty() ? nullptr : find(*key);
-        return slot && slot->key == *key ? slot->count : 0;
+        const int* count = m_packed.find(*key);
+        return count ? *count : 0;
     }
 
 private:
-    struct Slot {
-        quint64 key = kEmpty;
-        int count = 0;
-    };
-    static constexpr quint64 kEmpty = ~quint64(0);  // no packed text has a count of 0xff
     static std::optional<quint64> packed(const QString& text)
     {
         return packedText(reinterpret_cast<const char16_t*>(text.constData()), size_t(text.size()));
     }
-    // The key's slot, or the empty one where it would go.
-    Slot* find(quint64 key) const
-    {
-        size_t at = size_t((key * 0x9E3779B97F4A7C15ull) >> m_shift);
-        while (m_slots[at].key != kEmpty && m_slots[at].key != key)
-            at = (at + 1) & (m_slots.size() - 1);
-        return const_cast<Slot*>(&m_slots[at]);
-    }
     const QHash<QString, int>& m_counts;
-    std::vector<Slot> m_slots;
-    int m_shift = 64;
+    PackedTable<int> m_packed;
 };
 
 // The materials at the given places of all, each pointer copied once.
@@ -458,16 +553,18 @@ void QORModel::readMaterials(bool withAllSections)
         // Deliberately false even when the guide carries the "P" suffix.
         attributeSets[bits].insert(polymerizeKey, false);
     }
-    SharedTexts texts;
-    RepeatedText unIdText;
-
     int lineNumber = 0;
     const qsizetype firstNew = m_materials.size();
     const qsizetype lines = lineCount(bytes);
+    SharedTexts texts;
+    // A UTF-8 file decodes to at most as many UTF-16 units as it has bytes;
+    // each line adds the nulls after its name and UN number.
+    TextBlock block(bytes.size() + 2 * lines);
+    RepeatedText unIdText(block);
     // The file's materials in one allocation; each pointer to one of them
     // shares the ownership of all.
-    auto block = std::make_shared<std::vector<Material>>();
-    block->reserve(size_t(lines));
+    auto materials = std::make_shared<std::vector<Material>>();
+    materials->reserve(size_t(lines));
     m_materials.reserve(firstNew + lines);
     forEachPart(std::string_view(bytes.constData(), size_t(bytes.size())), '\n', [&](std::string_view line) {
         ++lineNumber;
@@ -486,8 +583,8 @@ void QORModel::readMaterials(bool withAllSections)
             qCritical().noquote() << fromUtf8(line);
             std::abort();
         }
-        Material& m = block->emplace_back();
-        m.name = materialName(fields[0]);
+        Material& m = materials->emplace_back();
+        m.name = block.name(fields[0]);
         m.placardId = texts(fields[1]);
         const std::string_view guide = fields[2];
         if (!guide.empty() && guide.back() == 'P') {
@@ -515,7 +612,7 @@ void QORModel::readMaterials(bool withAllSections)
                 attributes |= Warfare;
         }
         m.qorAttributes = attributeSets[attributes];
-        m_materials.emplaceBack(block, &m);
+        m_materials.emplaceBack(materials, &m);
     });
     Filter& all = *allFilter;
     if (withAllSections)

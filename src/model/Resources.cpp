@@ -90,9 +90,9 @@ int leadingInt(const QString& text)
 }
 
 namespace {
-// Capitalises n characters of in (UTF-16 units or Latin-1 bytes) into one new text.
+// Writes n characters of in (UTF-16 units or Latin-1 bytes), capitalised, to out.
 template <typename Char>
-QString capitalizedText(const Char* in, qsizetype n)
+void capitalizeText(const Char* in, qsizetype n, char16_t* out)
 {
     // ASCII, nearly every name, through a table instead of the Unicode
     // tables: 0 for a character that ends a word, else its upper case
@@ -106,39 +106,38 @@ QString capitalizedText(const Char* in, qsizetype n)
         }
         return t;
     }();
-    // Written in place: one allocation per text.
-    QString out(n, Qt::Uninitialized);
-    char16_t* o = reinterpret_cast<char16_t*>(out.data());
     bool startOfWord = true;
     for (qsizetype i = 0; i < n; ++i) {
         const char16_t u = char16_t(in[i]);
         if (u < 0x80) {
             const char16_t c = startOfWord ? kAscii.upper[u] : kAscii.lower[u];
-            o[i] = c ? c : u;
+            out[i] = c ? c : u;
             startOfWord = c == 0;
             continue;
         }
         const QChar c(u);
         if (c.isLetterOrNumber()) {
-            o[i] = (startOfWord ? c.toUpper() : c.toLower()).unicode();
+            out[i] = (startOfWord ? c.toUpper() : c.toLower()).unicode();
             startOfWord = false;
         } else {
-            o[i] = u;
+            out[i] = u;
             startOfWord = true;
         }
     }
-    return out;
 }
 } // namespace
 
 QString capitalized(QStringView text)
 {
-    return capitalizedText(reinterpret_cast<const char16_t*>(text.utf16()), text.size());
+    // Written in place: one allocation per text.
+    QString out(text.size(), Qt::Uninitialized);
+    capitalizeText(reinterpret_cast<const char16_t*>(text.utf16()), text.size(), reinterpret_cast<char16_t*>(out.data()));
+    return out;
 }
 
-QString capitalized(QLatin1String text)
+void capitalizeInto(QLatin1String text, char16_t* out)
 {
-    return capitalizedText(reinterpret_cast<const unsigned char*>(text.data()), text.size());
+    capitalizeText(reinterpret_cast<const unsigned char*>(text.data()), text.size(), out);
 }
 
 QString capitalized(const QString& text)

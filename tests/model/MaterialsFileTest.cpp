@@ -66,6 +66,34 @@ TEST(MaterialsFile, NamesMarksAndCaptions)
 
 }
 
+// Names and UN numbers are read into one shared buffer; each must still
+// behave as a text of its own, ended by a null and outliving the model.
+TEST(MaterialsFile, NamesAndNumbersAreTextsOfTheirOwn)
+{
+    FixturePack pack;
+    pack.setMaterials({ "ACETONE^3^127^1090^^^", "AC^6.1^117^1051^X^^Z", "ÉTHANOL^3^127^1170^^^", "ACETAL^3^127^1090^^^" });
+    QString kept;
+    {
+        ModelFixture model;
+        const MaterialList& materials = QORModel::sharedInstance()->materials();
+        ASSERT_EQ(materials.size(), 4);
+        for (const auto& m : materials) {
+            EXPECT_EQ(m->name.utf16()[m->name.size()], 0) << m->name.toStdString();
+            EXPECT_EQ(m->unId.utf16()[m->unId.size()], 0) << m->name.toStdString();
+        }
+        kept = materials.at(1)->name;
+        materials.at(0)->name.append(QStringLiteral(" Extra"));
+        materials.at(0)->unId[0] = u'9';
+        EXPECT_EQ(materials.at(0)->name, "Acetone Extra");
+        EXPECT_EQ(materials.at(1)->name, "AC") << "changing a name leaves the next one";
+        EXPECT_EQ(materials.at(2)->name, "Éthanol");
+        EXPECT_EQ(materials.at(3)->unId, "1090") << "changing a number leaves the one it was shared with";
+    }
+    EXPECT_EQ(kept, "AC") << "a name outlives the model";
+    kept.append(QStringLiteral(" and more"));
+    EXPECT_EQ(kept, "AC and more");
+}
+
 TEST(MaterialsFile, ShortLinesAreSkippedAndMissingFileGivesNoMaterials)
 {
     FixturePack pack;
