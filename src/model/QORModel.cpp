@@ -37,7 +37,103 @@ QString readTextDetectingEncoding(const QString& path, bool* ok)
     QStringDecoder decoder(encoding.value_or(QStringConverter::Utf8));
     return decoder.decode(bytes);
 }
+
+// A short text as one number: up to seven characters below 0x100 and their
+// count. None for other texts.
+template <typename Char>
+std::optional<quint64> packedText(const Char* text, size_t size)
+{
+    if (size > 7)
+        return std::nullopt;
+    quint64 key = quint64(size) << 56;
+    for (size_t i = 0; i < size; ++i) {
+        const auto unit = static_cast<std::make_unsigned_t<Char>>(text[i]);
+        if (unit > 0xff)
+            return std::nullopt;
+        key |= quint64(unit) << (8 * i);
+    }
+    return key;
+}
+
+// A table keyed by packed texts, flat and probed in a row: a look-up is a
+// multiplication and a comparison or two, with no text to compare.
+template <typename Value>
+class PackedTable {
+public:
+    explicit PackedTable(size_t expected = 0)
+    {
+        size_t size = 16;
+        while (size < 2 * expected)  // at most half full
+            size *= 2;
+        m_slots.resize(size);
+        m_shift = 64 - std::countr_zero(size);
+    }
+    const Value* find(quint64 key) const
+    {
+        const Slot& slot = m_slots[indexOf(key)];
+        return slot.key == key ? &slot.value : nullptr;
+    }
+    Value& insert(quint64 key, Value value)
+    {
+        if (2 * (m_used + 1) > m_slots.size()) {
+            PackedTable grown(m_slots.size());
+            for (Slot& slot : m_slots)
+                if (slot.key != kEmpty)
+                    grown.insert(slot.key, std::move(slot.value));
+            *this = std::move(grown);
+        }
+        Slot& slot = m_slots[indexOf(key)];
+        m_used += slot.key == kEmpty;
+        slot = { key, std::move(value) };
+        return slot.value;
+    }
+
+private:
+    static constexpr quint64 kEmpty = ~quint64(0);  // no packed text has a count of 0xff
+    struct Slot {
+        quint64 key = kEmpty;
+        Value value{};
+    };
+    // The key's slot, or the empty one where it would go.
+    size_t indexOf(quint64 key) const
+    {
+        size_t at = size_t((key * 0x9E3779B97F4A7C15ull) >> m_shift);
+        while (m_slots[at].key != kEmpty && m_slots[at].key != key)
+            at = (at + 1) & (m_slots.size() - 1);
+        return at;
+    }
+    std::vector<Slot> m_slots;
+    size_t m_used = 0;
+    int m_shift = 64;
+};
 } // namespace
+
+// Incident counts by UN number, for looking up every material's in a row:
+// a flat table of short numbers, where the counts' hash compares texts held
+// apart in memory. Other numbers are looked up in the hash.
+class QORModel::IncidentCounts {
+public:
+    void add(const QString& unId, int count)
+    {
+        if (const auto key = packed(unId))
+            m_packed.insert(*key, count);
+    }
+    int value(const QString& unId, const QHash<QString, int>& counts) const
+    {
+        const auto key = packed(unId);
+        if (!key)
+            return counts.value(unId, 0);
+        const int* count = m_packed.find(*key);
+        return count ? *count : 0;
+    }
+
+private:
+    static std::optional<quint64> packed(const QString& text)
+    {
+        return packedText(reinterpret_cast<const char16_t*>(text.constData()), size_t(text.size()));
+    }
+    PackedTable<int> m_packed;
+};
 
 QORModel* QORModel::sharedInstance(bool create)
 {
@@ -295,75 +391,6 @@ qsizetype lineCount(const QByteArray& bytes)
     return lines;
 }
 
-// A short text as one number: up to seven characters below 0x100 and their
-// count. None for other texts.
-template <typename Char>
-std::optional<quint64> packedText(const Char* text, size_t size)
-{
-    if (size > 7)
-        return std::nullopt;
-    quint64 key = quint64(size) << 56;
-    for (size_t i = 0; i < size; ++i) {
-        const auto unit = static_cast<std::make_unsigned_t<Char>>(text[i]);
-        if (unit > 0xff)
-            return std::nullopt;
-        key |= quint64(unit) << (8 * i);
-    }
-    return key;
-}
-
-// A table keyed by packed texts, flat and probed in a row: a look-up is a
-// multiplication and a comparison or two, with no text to compare.
-template <typename Value>
-class PackedTable {
-public:
-    explicit PackedTable(size_t expected = 0)
-    {
-        size_t size = 16;
-        while (size < 2 * expected)  // at most half full
-            size *= 2;
-        m_slots.resize(size);
-        m_shift = 64 - std::countr_zero(size);
-    }
-    const Value* find(quint64 key) const
-    {
-        const Slot& slot = m_slots[indexOf(key)];
-        return slot.key == key ? &slot.value : nullptr;
-    }
-    Value& insert(quint64 key, Value value)
-    {
-        if (2 * (m_used + 1) > m_slots.size()) {
-            PackedTable grown(m_slots.size());
-            for (Slot& slot : m_slots)
-                if (slot.key != kEmpty)
-                    grown.insert(slot.key, std::move(slot.value));
-            *this = std::move(grown);
-        }
-        Slot& slot = m_slots[indexOf(key)];
-        m_used += slot.key == kEmpty;
-        slot = { key, std::move(value) };
-        return slot.value;
-    }
-
-private:
-    static constexpr quint64 kEmpty = ~quint64(0);  // no packed text has a count of 0xff
-    struct Slot {
-        quint64 key = kEmpty;
-        Value value{};
-    };
-    // The key's slot, or the empty one where it would go.
-    size_t indexOf(quint64 key) const
-    {
-        size_t at = size_t((key * 0x9E3779B97F4A7C15ull) >> m_shift);
-        while (m_slots[at].key != kEmpty && m_slots[at].key != key)
-            at = (at + 1) & (m_slots.size() - 1);
-        return at;
-    }
-    std::vector<Slot> m_slots;
-    size_t m_used = 0;
-    int m_shift = 64;
-};
-
 // Guide, placard and the marks take few distinct values: each is made once
 // and shared by every material carrying it.
 class SharedTexts {
@@ -457,35 +484,6 @@ void addAlphaSections(QHash<QString, MaterialList>& sections, const MaterialList
     }
 }
 
-// The incident counts by UN number, for looking up every material's in a
-// row: a flat table of short numbers, where the model's hash compares texts
-// held apart in memory. Other numbers are looked up in the hash.
-class IncidentCounts {
-public:
-    explicit IncidentCounts(const QHash<QString, int>& counts) : m_counts(counts), m_packed(size_t(counts.size()))
-    {
-        for (auto it = counts.cbegin(); it != counts.cend(); ++it)
-            if (const auto key = packed(it.key()))
-                m_packed.insert(*key, it.value());
-    }
-    int value(const QString& unId) const
-    {
-        const auto key = packed(unId);
-        if (!key)
-            return m_counts.value(unId, 0);
-        const int* count = m_packed.find(*key);
-        return count ? *count : 0;
-    }
-
-private:
-    static std::optional<quint64> packed(const QString& text)
-    {
-        return packedText(reinterpret_cast<const char16_t*>(text.constData()), size_t(text.size()));
-    }
-    const QHash<QString, int>& m_counts;
-    PackedTable<int> m_packed;
-};
-
 // The materials at the given places of all, each pointer copied once.
 MaterialList materialsAt(const MaterialList& all, const std::vector<int>& places)
 {
@@ -556,6 +554,8 @@ void QORModel::readMaterials(bool withAllSections)
     int lineNumber = 0;
     const qsizetype firstNew = m_materials.size();
     const qsizetype lines = lineCount(bytes);
+    // Material::numIncidents, with the counts looked up in a flat table.
+    const QHash<QString, int>& incidentCounts = getMaterialsWithIncidents();
     SharedTexts texts;
     // A UTF-8 file decodes to at most as many UTF-16 units as it has bytes;
     // each line adds the nulls after its name and UN number.
@@ -566,6 +566,7 @@ void QORModel::readMaterials(bool withAllSections)
     auto materials = std::make_shared<std::vector<Material>>();
     materials->reserve(size_t(lines));
     m_materials.reserve(firstNew + lines);
+    m_sortKeys.reserve(size_t(firstNew + lines));
     forEachPart(std::string_view(bytes.constData(), size_t(bytes.size())), '\n', [&](std::string_view line) {
         ++lineNumber;
         std::string_view fields[8];
@@ -613,6 +614,15 @@ void QORModel::readMaterials(bool withAllSections)
         }
         m.qorAttributes = attributeSets[attributes];
         m_materials.emplaceBack(materials, &m);
+
+        SortKeys& keys = m_sortKeys.emplace_back();
+        keys.guide = leadingInt(m.guideId);
+        keys.unId = leadingInt(m.unId);
+        const bool carries = !m.unId.isEmpty() && m.carriesIncidentsOfNumber(keys.unId);
+        keys.incidents = carries ? m_incidentCounts->value(m.unId, incidentCounts) : 0;
+        // Warfare agents go under " No Id" whatever their number.
+        const int number = m.chemicalWarefareAgent && *m.chemicalWarefareAgent == QLatin1String("Z") ? 0 : keys.unId;
+        keys.unIdBucket = number == 0 ? SortKeys::kNoId : (number / 100) * 100;
     });
     Filter& all = *allFilter;
     if (withAllSections)
@@ -697,10 +707,15 @@ const QHash<QString, int>& QORModel::getMaterialsWithIncidents()
 {
     if (!m_materialsWithIncidents) {
         QHash<QString, int> counts;
+        auto table = std::make_unique<IncidentCounts>();
         Statement st(m_incidentsDb, QStringLiteral("select count(*), un_id from incidents group by un_id"));
-        while (st.step())
-            counts.insert(st.text(1), st.integer(0));
+        while (st.step()) {
+            const QString unId = st.text(1);
+            counts.insert(unId, st.integer(0));
+            table->add(unId, st.integer(0));
+        }
         m_materialsWithIncidents = std::move(counts);
+        m_incidentCounts = std::move(table);
     }
     return *m_materialsWithIncidents;
 }
@@ -1042,23 +1057,12 @@ const QORModel::SharedOrders& QORModel::sharedOrders()
     SharedOrders& orders = m_sharedOrders.emplace(SharedOrders{});
     const int n = int(m_materials.size());
     orders.count = n;
-    // Sort keys computed once per material rather than in every comparison.
-    const size_t count = static_cast<size_t>(n);
-    std::vector<int> guide(count), incidents(count), unId(count);
-    orders.unIdBucket.resize(count);
-    // Material::numIncidents, with the counts looked up in a flat table.
-    const IncidentCounts counts(getMaterialsWithIncidents());
-    for (int i = 0; i < n; ++i) {
-        const Material& m = *m_materials.at(i);
-        guide[size_t(i)] = leadingInt(m.guideId);
-        unId[size_t(i)] = leadingInt(m.unId);
-        const bool carries = !m.unId.isEmpty() && m.carriesIncidentsOfNumber(unId[size_t(i)]);
-        incidents[size_t(i)] = carries ? counts.value(m.unId) : 0;
-        // Warfare agents go under " No Id" whatever their number.
-        const int number = m.chemicalWarefareAgent && *m.chemicalWarefareAgent == QLatin1String("Z") ? 0 : unId[size_t(i)];
-        orders.unIdBucket[size_t(i)] = number == 0 ? SharedOrders::kNoId : (number / 100) * 100;
-    }
-    auto sortedBy = [n](const std::vector<int>& key, bool descending) {
+    // The keys were read with the materials, once each.
+    Q_ASSERT(m_sortKeys.size() == size_t(n));
+    auto sortedBy = [n, this](int SortKeys::*field, bool descending) {
+        std::vector<int> key(static_cast<size_t>(n));
+        for (size_t i = 0; i < key.size(); ++i)
+            key[i] = m_sortKeys[i].*field;
         std::vector<int> order(static_cast<size_t>(n));
         if (n == 0)
             return order;
@@ -1087,9 +1091,9 @@ const QORModel::SharedOrders& QORModel::sharedOrders()
             order[size_t(start[slot(key[size_t(i)])]++)] = i;
         return order;
     };
-    orders.byGuide = sortedBy(guide, false);
-    orders.byIncidents = sortedBy(incidents, true);
-    orders.byUnId = sortedBy(unId, false);
+    orders.byGuide = sortedBy(&SortKeys::guide, false);
+    orders.byIncidents = sortedBy(&SortKeys::incidents, true);
+    orders.byUnId = sortedBy(&SortKeys::unId, false);
     return orders;
 }
 
@@ -1148,8 +1152,8 @@ void QORModel::fillFilter(Filter& filter)
     const std::vector<int>& byUnId = restricted(orders.byUnId);
     filter.unIdSortedArray = materialsAt(m_materials, byUnId);
     addSectionRuns(
-        filter.unIdSections, filter.unIdSortedArray, byUnId, [&](int i) { return orders.unIdBucket[size_t(i)]; },
-        [](int bucket) { return bucket == SharedOrders::kNoId ? QStringLiteral(" No Id") : QString::number(bucket); });
+        filter.unIdSections, filter.unIdSortedArray, byUnId, [&](int i) { return m_sortKeys[size_t(i)].unIdBucket; },
+        [](int bucket) { return bucket == SortKeys::kNoId ? QStringLiteral(" No Id") : QString::number(bucket); });
     filter.invalidateSectionKeys();
     logMemory("after filter rebuild");
 }
