@@ -6,9 +6,12 @@ namespace qor {
 
 bool Material::carriesIncidentsOfItsNumber() const
 {
-    if (unId.isEmpty())
-        return false;
-    switch (leadingInt(unId)) {
+    return !unId.isEmpty() && carriesIncidentsOfNumber(leadingInt(unId));
+}
+
+bool Material::carriesIncidentsOfNumber(int number) const
+{
+    switch (number) {
     case 1760:
         return name == QLatin1String("Corrosive Liquid, N.O.S.");
     case 2810:

@@ -66,6 +66,8 @@ public:
     // which many generic names share, only for the N.O.S. name that stands
     // for the number, so the others do not repeat its count.
     bool carriesIncidentsOfItsNumber() const;
+    // The same given the number read from a non-empty unId.
+    bool carriesIncidentsOfNumber(int number) const;
     // CAMEO, then NPG, then GHS attributes; "USE" and "CameoHazardText" fall
     // back to the WISER texts. Runs the lookups on the shared model.
     std::optional<QString> attributeForKey(const QString& key);

@@ -8,6 +8,8 @@
 #include <QSet>
 #include <QStringDecoder>
 #include <algorithm>
+#include <bit>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -35,7 +37,103 @@ QString readTextDetectingEncoding(const QString& path, bool* ok)
     QStringDecoder decoder(encoding.value_or(QStringConverter::Utf8));
     return decoder.decode(bytes);
 }
+
+// A short text as one number: up to seven characters below 0x100 and their
+// count. None for other texts.
+template <typename Char>
+std::optional<quint64> packedText(const Char* text, size_t size)
+{
+    if (size > 7)
+        return std::nullopt;
+    quint64 key = quint64(size) << 56;
+    for (size_t i = 0; i < size; ++i) {
+        const auto unit = static_cast<std::make_unsigned_t<Char>>(text[i]);
+        if (unit > 0xff)
+            return std::nullopt;
+        key |= quint64(unit) << (8 * i);
+    }
+    return key;
+}
+
+// A table keyed by packed texts, flat and probed in a row: a look-up is a
+// multiplication and a comparison or two, with no text to compare.
+template <typename Value>
+class PackedTable {
+public:
+    explicit PackedTable(size_t expected = 0)
+    {
+        size_t size = 16;
+        while (size < 2 * expected)  // at most half full
+            size *= 2;
+        m_slots.resize(size);
+        m_shift = 64 - std::countr_zero(size);
+    }
+    const Value* find(quint64 key) const
+    {
+        const Slot& slot = m_slots[indexOf(key)];
+        return slot.key == key ? &slot.value : nullptr;
+    }
+    Value& insert(quint64 key, Value value)
+    {
+        if (2 * (m_used + 1) > m_slots.size()) {
+            PackedTable grown(m_slots.size());
+            for (Slot& slot : m_slots)
+                if (slot.key != kEmpty)
+                    grown.insert(slot.key, std::move(slot.value));
+            *this = std::move(grown);
+        }
+        Slot& slot = m_slots[indexOf(key)];
+        m_used += slot.key == kEmpty;
+        slot = { key, std::move(value) };
+        return slot.value;
+    }
+
+private:
+    static constexpr quint64 kEmpty = ~quint64(0);  // no packed text has a count of 0xff
+    struct Slot {
+        quint64 key = kEmpty;
+        Value value{};
+    };
+    // The key's slot, or the empty one where it would go.
+    size_t indexOf(quint64 key) const
+    {
+        size_t at = size_t((key * 0x9E3779B97F4A7C15ull) >> m_shift);
+        while (m_slots[at].key != kEmpty && m_slots[at].key != key)
+            at = (at + 1) & (m_slots.size() - 1);
+        return at;
+    }
+    std::vector<Slot> m_slots;
+    size_t m_used = 0;
+    int m_shift = 64;
+};
 } // namespace
+
+// Incident counts by UN number, for looking up every material's in a row:
+// a flat table of short numbers, where the counts' hash compares texts held
+// apart in memory. Other numbers are looked up in the hash.
+class QORModel::IncidentCounts {
+public:
+    void add(const QString& unId, int count)
+    {
+        if (const auto key = packed(unId))
+            m_packed.insert(*key, count);
+    }
+    int value(const QString& unId, const QHash<QString, int>& counts) const
+    {
+        const auto key = packed(unId);
+        if (!key)
+            return counts.value(unId, 0);
+        const int* count = m_packed.find(*key);
+        return count ? *count : 0;
+    }
+
+private:
+    static std::optional<quint64> packed(const QString& text)
+    {
+        return packedText(reinterpret_cast<const char16_t*>(text.constData()), size_t(text.size()));
+    }
+    PackedTable<int> m_packed;
+};
 
 QORModel* QORModel::sharedInstance(bool create)
 {
@@ -146,7 +244,9 @@ void QORModel::loadData()
     QMutexLocker locker(&m_lock);
     m_loadTimer.stop();
     m_isLoading = true;
-    loadMaterials();
+    // The all-materials filter gets its sections when it is filled below;
+    // the reader adds the new materials to them only when it is not.
+    readMaterials(allFilter->filteredArray && !allFilter->filteredArray->isEmpty());
     // Materials just read hold no caches: loadFilterWithData's release of
     // them is left out here.
     for (const auto& filter : std::as_const(m_filters))
@@ -167,21 +267,107 @@ void QORModel::releaseUnneededMemory()
 // ---------------------------------------------------------------- materials
 
 namespace {
-// Lines and fields are cut by scanning, without lists of views per line.
+// The materials file is cut as UTF-8 bytes: its separators are ASCII, and no
+// byte of a multi-byte character is, so the parts are those of the decoded
+// text. Only the fields a material keeps are decoded.
 template <typename Each>
-void forEachPart(QStringView text, char16_t separator, Each each)
+void forEachPart(std::string_view text, char separator, Each each)
 {
-    qsizetype start = 0;
     for (;;) {
-        const qsizetype end = text.indexOf(QChar(separator), start);
-        if (end < 0) {
-            each(text.mid(start));
+        const void* at = text.empty() ? nullptr : std::memchr(text.data(), separator, text.size());
+        if (!at) {
+            each(text);
             return;
         }
-        each(text.mid(start, end - start));
-        start = end + 1;
+        const size_t end = size_t(static_cast<const char*>(at) - text.data());
+        each(text.substr(0, end));
+        text.remove_prefix(end + 1);
     }
 }
+
+bool isAscii(std::string_view text)
+{
+    for (const char c : text)
+        if (static_cast<unsigned char>(c) >= 0x80)
+            return false;
+    return true;
+}
+
+QString fromUtf8(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+}
+
+// The names and UN numbers of a file's materials, written one after another
+// into one buffer: one allocation for them all instead of one per text.
+// Each text is a QString pointing into the buffer and holding a reference to
+// it, ended by a null like any other; changing one copies it out first, as
+// the buffer is shared.
+class TextBlock {
+public:
+    // Room for texts of capacity characters and a null each.
+    explicit TextBlock(qsizetype capacity) : m_buffer(capacity, Qt::Uninitialized)
+    {
+        m_next = reinterpret_cast<char16_t*>(m_buffer.data());  // before it is shared
+        m_end = m_next + capacity;
+    }
+    // A material's name, capitalised from four characters on; ASCII, nearly
+    // every name, is capitalised straight from the file's bytes.
+    QString name(std::string_view bytes)
+    {
+        if (!isAscii(bytes)) {
+            const QString name = fromUtf8(bytes);
+            return copied(name.size() >= 4 ? capitalized(name) : name);
+        }
+        const QLatin1String name(bytes.data(), qsizetype(bytes.size()));
+        char16_t* at = room(name.size());
+        if (!at)
+            return name.size() >= 4 ? capitalized(QString(name)) : QString(name);
+        if (name.size() >= 4)
+            capitalizeInto(name, at);
+        else
+            widen(name, at);
+        return made(at, name.size());
+    }
+    QString text(std::string_view bytes)
+    {
+        if (!isAscii(bytes))
+            return copied(fromUtf8(bytes));
+        const QLatin1String text(bytes.data(), qsizetype(bytes.size()));
+        char16_t* at = room(text.size());
+        if (!at)
+            return QString(text);
+        widen(text, at);
+        return made(at, text.size());
+    }
+
+private:
+    static void widen(QLatin1String text, char16_t* out)
+    {
+        for (qsizetype i = 0; i < text.size(); ++i)
+            out[i] = static_cast<unsigned char>(text.data()[i]);
+    }
+    char16_t* room(qsizetype size) const { return size < m_end - m_next ? m_next : nullptr; }
+    QString made(char16_t* at, qsizetype size)
+    {
+        at[size] = 0;
+        m_next = at + size + 1;
+        QStringPrivate& buffer = m_buffer.data_ptr();
+        buffer.ref();
+        return QString(QStringPrivate(buffer.d_ptr(), at, size));
+    }
+    QString copied(const QString& text)
+    {
+        char16_t* at = room(text.size());
+        if (!at)
+            return text;
+        std::copy_n(reinterpret_cast<const char16_t*>(text.constData()), text.size(), at);
+        return made(at, text.size());
+    }
+    QString m_buffer;
+    char16_t* m_next = nullptr;
+    char16_t* m_end = nullptr;
+};
 
 // The prefix index's keys of one name: 0..3 leading characters of its lower
 // case, short names using one character fewer than they have. Lower case can
@@ -205,55 +391,143 @@ qsizetype lineCount(const QByteArray& bytes)
     return lines;
 }
 
-// Short fields (guide, placard, UN number, flags) mostly repeat the line
-// before: such a text is shared with the previous material, not made again.
+// Guide, placard and the marks take few distinct values: each is made once
+// and shared by every material carrying it.
+class SharedTexts {
+public:
+    QString operator()(std::string_view text)
+    {
+        const std::optional<quint64> key = packedText(text.data(), text.size());
+        if (!key)
+            return fromUtf8(text);
+        if (const QString* known = m_texts.find(*key))
+            return *known;
+        return m_texts.insert(*key, fromUtf8(text));
+    }
+
+private:
+    PackedTable<QString> m_texts;
+};
+
+// UN numbers mostly repeat the line before (several names per number): such
+// a text is shared with the previous material, not made again.
 class RepeatedText {
 public:
-    QString operator()(QStringView text)
+    explicit RepeatedText(TextBlock& block) : m_block(block) {}
+    QString operator()(std::string_view text)
     {
-        if (text != m_view || m_text.isNull()) {
-            m_view = text;
-            m_text = text.toString();
+        if (text != m_bytes || m_text.isNull()) {
+            m_bytes = text;
+            m_text = m_block.text(text);
         }
         return m_text;
     }
 
 private:
-    QStringView m_view;  // into the file's text, which outlives this
+    TextBlock& m_block;
+    std::string_view m_bytes;  // into the file's bytes, which outlive this
     QString m_text;
 };
 
-// Alphabetical sections, filled in list order: a material goes under the
-// upper-cased first letter of its name, and a name not starting with a
-// letter goes where the material before it went (nowhere for the first).
-class AlphaSectioning {
-public:
-    explicit AlphaSectioning(QHash<QString, MaterialList>& sections) : m_sections(sections) {}
-    void add(const MaterialPtr& m)
-    {
-        const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
-        if (first.isLetter() && (first != m_letter || !m_section)) {
-            m_section = &m_sections[QString(first)];
-            m_letter = first;
+// Alphabetical sections of list[from..], added in list order: a material
+// goes under the upper-cased first letter of its name, and a name not
+// starting with a letter goes where the material before it went (nowhere
+// for the first). Gathered per letter before they reach the hash, as in a
+// file not sorted by name the letter changes at nearly every row.
+void addAlphaSections(QHash<QString, MaterialList>& sections, const MaterialList& list, qsizetype from = 0)
+{
+    std::vector<std::pair<QChar, MaterialList>> letters;  // in order of first use
+    int asciiSlot[26];
+    std::fill(std::begin(asciiSlot), std::end(asciiSlot), -1);
+    auto slotOf = [&](QChar letter) {
+        const char16_t u = letter.unicode();
+        int* known = u >= 'A' && u <= 'Z' ? &asciiSlot[u - 'A'] : nullptr;
+        if (known && *known >= 0)
+            return *known;
+        if (!known)
+            for (size_t s = 0; s < letters.size(); ++s)
+                if (letters[s].first == letter)
+                    return int(s);
+        letters.emplace_back(letter, MaterialList());
+        const int slot = int(letters.size()) - 1;
+        if (known)
+            *known = slot;
+        return slot;
+    };
+    int slot = -1;
+    QChar letter;
+    for (qsizetype i = from; i < list.size(); ++i) {
+        const MaterialPtr& m = list.at(i);
+        const char16_t u = m->name.isEmpty() ? 0 : m->name.at(0).unicode();
+        QChar first;
+        bool isLetter;
+        if (u < 0x80) {
+            first = QChar(u >= 'a' && u <= 'z' ? char16_t(u - 32) : u);
+            isLetter = first >= u'A' && first <= u'Z';
+        } else {
+            first = QChar(u).toUpper();
+            isLetter = first.isLetter();
         }
-        if (m_section)
-            m_section->append(m);
+        if (isLetter && (slot < 0 || first != letter)) {
+            slot = slotOf(first);
+            letter = first;
+        }
+        if (slot >= 0)
+            letters[size_t(slot)].second.append(m);
     }
+    for (auto& [first, members] : letters) {
+        MaterialList& section = sections[QString(first)];
+        if (section.isEmpty())
+            section = std::move(members);
+        else
+            section.append(members);
+    }
+}
 
-private:
-    QHash<QString, MaterialList>& m_sections;
-    MaterialList* m_section = nullptr;
-    QChar m_letter;
-};
+// The materials at the given places of all, each pointer copied once.
+MaterialList materialsAt(const MaterialList& all, const std::vector<int>& places)
+{
+    MaterialList out(qsizetype(places.size()));
+    MaterialPtr* o = out.data();
+    for (const int i : places)
+        *o++ = all.at(i);
+    return out;
+}
+
+// Sections of a sorted list (sorted[j] is the material at order[j]):
+// neighbours mostly share theirs, so each run of equal keys is copied into
+// its section in one piece. keyOf takes a material's place.
+template <typename KeyOf, typename SectionName>
+void addSectionRuns(QHash<QString, MaterialList>& sections, const MaterialList& sorted, const std::vector<int>& order,
+                    KeyOf keyOf, SectionName sectionName)
+{
+    for (size_t start = 0; start < order.size();) {
+        const auto key = keyOf(order[start]);
+        size_t end = start + 1;
+        while (end < order.size() && keyOf(order[end]) == key)
+            ++end;
+        const MaterialList run(sorted.constBegin() + qsizetype(start), sorted.constBegin() + qsizetype(end));
+        MaterialList& section = sections[sectionName(key)];
+        if (section.isEmpty())
+            section = run;
+        else
+            section.append(run);
+        start = end;
+    }
+}
 } // namespace
 
 void QORModel::loadMaterials()
+{
+    readMaterials(true);
+}
+
+void QORModel::readMaterials(bool withAllSections)
 {
     QFile file(Resources::path(QStringLiteral("chemicals_2024.csv")));
     if (!file.open(QIODevice::ReadOnly))
         return;
     const QByteArray bytes = file.readAll();
-    const QString text = QString::fromUtf8(bytes);
     m_sharedOrders.reset();
 
     // The same texts for every material: translated once.
@@ -277,18 +551,27 @@ void QORModel::loadMaterials()
         // Deliberately false even when the guide carries the "P" suffix.
         attributeSets[bits].insert(polymerizeKey, false);
     }
-    RepeatedText placardText, guideText, unIdText, tihText2, waterText, warfareText2;
-
-    Filter& all = *allFilter;
-    AlphaSectioning sections(all.alphaSections);
     int lineNumber = 0;
     const qsizetype firstNew = m_materials.size();
-    m_materials.reserve(m_materials.size() + lineCount(bytes));
-    forEachPart(text, u'\n', [&](QStringView line) {
+    const qsizetype lines = lineCount(bytes);
+    // Material::numIncidents, with the counts looked up in a flat table.
+    const QHash<QString, int>& incidentCounts = getMaterialsWithIncidents();
+    SharedTexts texts;
+    // A UTF-8 file decodes to at most as many UTF-16 units as it has bytes;
+    // each line adds the nulls after its name and UN number.
+    TextBlock block(bytes.size() + 2 * lines);
+    RepeatedText unIdText(block);
+    // The file's materials in one allocation; each pointer to one of them
+    // shares the ownership of all.
+    auto materials = std::make_shared<std::vector<Material>>();
+    materials->reserve(size_t(lines));
+    m_materials.reserve(firstNew + lines);
+    m_sortKeys.reserve(size_t(firstNew + lines));
+    forEachPart(std::string_view(bytes.constData(), size_t(bytes.size())), '\n', [&](std::string_view line) {
         ++lineNumber;
-        QStringView fields[8];
+        std::string_view fields[8];
         int count = 0;
-        forEachPart(line, u'^', [&](QStringView f) {
+        forEachPart(line, '^', [&](std::string_view f) {
             if (count < 8)
                 fields[count] = f;
             ++count;
@@ -298,54 +581,74 @@ void QORModel::loadMaterials()
         if (count == 6) {
             // Every data line must carry the seventh field; the data is broken.
             qCritical().noquote() << QStringLiteral("materials file line %1 has 6 fields").arg(lineNumber);
-            qCritical().noquote() << line.toString();
+            qCritical().noquote() << fromUtf8(line);
             std::abort();
         }
-        auto m = std::make_shared<Material>();
-        const QStringView name = fields[0];
-        m->name = name.size() >= 4 ? capitalized(name) : name.toString();
-        m->placardId = placardText(fields[1]);
-        QStringView guide = fields[2];
-        if (guide.endsWith(u'P')) {
-            m->mayPolymerize = true;
-            guide = guide.left(3);
+        Material& m = materials->emplace_back();
+        m.name = block.name(fields[0]);
+        m.placardId = texts(fields[1]);
+        const std::string_view guide = fields[2];
+        if (!guide.empty() && guide.back() == 'P') {
+            m.mayPolymerize = true;
+            m.guideId = isAscii(guide) ? texts(guide.substr(0, 3)) : fromUtf8(guide).left(3);
+        } else {
+            m.guideId = texts(guide);
         }
-        m->guideId = guideText(guide);
-        m->unId = unIdText(fields[3]);
+        m.unId = unIdText(fields[3]);
         int attributes = 0;
-        if (!fields[4].isEmpty()) {
-            m->toxicInhalationHazard = tihText2(fields[4]);
+        if (!fields[4].empty()) {
+            m.toxicInhalationHazard = texts(fields[4]);
             attributes |= Tih;
         }
-        if (!fields[5].isEmpty()) {
-            m->waterReactive = waterText(fields[5]);
+        if (!fields[5].empty()) {
+            m.waterReactive = texts(fields[5]);
             attributes |= WaterReactive;
         }
-        if (!fields[6].isEmpty()) {
-            if (fields[6] == u"M")
-                m->methLab = true;
+        if (!fields[6].empty()) {
+            if (fields[6] == "M")
+                m.methLab = true;
             else
-                m->chemicalWarefareAgent = warfareText2(fields[6]);
-            if (fields[6] != u"M" && fields[6] != u"X" && fields[6] != u" ")
+                m.chemicalWarefareAgent = texts(fields[6]);
+            if (fields[6] != "M" && fields[6] != "X" && fields[6] != " ")
                 attributes |= Warfare;
         }
-        m->qorAttributes = attributeSets[attributes];
+        m.qorAttributes = attributeSets[attributes];
+        m_materials.emplaceBack(materials, &m);
 
-        sections.add(m);
-        m_materials.append(std::move(m));
+        SortKeys& keys = m_sortKeys.emplace_back();
+        keys.guide = leadingInt(m.guideId);
+        keys.unId = leadingInt(m.unId);
+        const bool carries = !m.unId.isEmpty() && m.carriesIncidentsOfNumber(keys.unId);
+        keys.incidents = carries ? m_incidentCounts->value(m.unId, incidentCounts) : 0;
+        // Warfare agents go under " No Id" whatever their number.
+        const int number = m.chemicalWarefareAgent && *m.chemicalWarefareAgent == QLatin1String("Z") ? 0 : keys.unId;
+        keys.unIdBucket = number == 0 ? SortKeys::kNoId : (number / 100) * 100;
     });
+    Filter& all = *allFilter;
+    if (withAllSections)
+        addAlphaSections(all.alphaSections, m_materials, firstNew);
     all.invalidateSectionKeys();
+
     // Prefix index: keys of 0..3 leading characters; short names use length-1.
     // Neighbouring names mostly share their keys, so each level remembers its
     // last list; lists are gathered where adding keys moves no list, then
     // handed to the index.
-    // Keys of up to three characters fit std::u16string's own buffer: no
-    // allocation per key, and comparing one is comparing a few characters.
-    std::unordered_map<std::u16string, MaterialList> lists;
+    // A key of up to three UTF-16 units and its length fit one 64-bit
+    // number: no text per key, and comparing or hashing one is one step.
+    const auto packedKey = [](QStringView text, qsizetype len) {
+        quint64 key = quint64(len) << 48;
+        for (qsizetype c = 0; c < len; ++c)
+            key |= quint64(text.at(c).unicode()) << (16 * c);
+        return key;
+    };
+    std::unordered_map<quint64, MaterialList> lists;
     struct Level {
-        std::u16string_view key;
+        quint64 key = 0;
         MaterialList* list = nullptr;
     } levels[4];
+    // Every name has the key "" at level 0; a name whose lower case has at
+    // most one character has it at all four levels.
+    std::vector<qsizetype> shortNames;
     for (qsizetype i = firstNew; i < m_materials.size(); ++i) {
         const MaterialPtr& m = m_materials.at(i);
         // ASCII, the usual case, is lowered on the stack.
@@ -359,32 +662,60 @@ void QORModel::loadMaterials()
         }
         const QString other = isAscii ? QString() : lowerPrefix(m->name);
         const QStringView lower = isAscii ? QStringView(ascii, take) : QStringView(other);
-        for (int k = 0; k <= 3; ++k) {
-            const qsizetype len = std::max<qsizetype>(lower.size() <= k ? lower.size() - 1 : k, 0);
-            const std::u16string_view key(reinterpret_cast<const char16_t*>(lower.utf16()), size_t(len));
+        if (lower.size() <= 1) {
+            shortNames.push_back(i);
+            continue;
+        }
+        for (int k = 1; k <= 3; ++k) {
+            const quint64 key = packedKey(lower, lower.size() <= k ? lower.size() - 1 : k);
             Level& level = levels[k];
             if (!level.list || level.key != key) {
-                auto it = lists.try_emplace(std::u16string(key)).first;
-                level.key = it->first;  // the map's node keeps the text in place
-                level.list = &it->second;
+                level.key = key;
+                level.list = &lists[key];  // a node of the map stays in place
             }
             level.list->append(m);
         }
     }
+    if (firstNew < m_materials.size()) {
+        // Without short names, the list of "" is the new materials themselves.
+        MaterialList& everyName = lists[packedKey({}, 0)];
+        if (shortNames.empty()) {
+            everyName = firstNew == 0 ? m_materials : m_materials.sliced(firstNew);
+        } else {
+            everyName.reserve(m_materials.size() - firstNew + 3 * qsizetype(shortNames.size()));
+            auto nextShort = shortNames.cbegin();
+            for (qsizetype i = firstNew; i < m_materials.size(); ++i) {
+                const bool isShort = nextShort != shortNames.cend() && *nextShort == i;
+                nextShort += isShort;
+                for (int times = isShort ? 4 : 1; times > 0; --times)
+                    everyName.append(m_materials.at(i));
+            }
+        }
+    }
     all.alphaIndex.clear();
     all.alphaIndex.reserve(qsizetype(lists.size()));
-    for (auto& [key, list] : lists)
-        all.alphaIndex.insert(QString::fromUtf16(key.data(), qsizetype(key.size())), std::move(list));
+    for (auto& [key, list] : lists) {
+        const qsizetype len = qsizetype(key >> 48);
+        QString text(len, Qt::Uninitialized);
+        for (qsizetype c = 0; c < len; ++c)
+            text[c] = QChar(char16_t(key >> (16 * c)));
+        all.alphaIndex.insert(text, std::move(list));
+    }
 }
 
 const QHash<QString, int>& QORModel::getMaterialsWithIncidents()
 {
     if (!m_materialsWithIncidents) {
         QHash<QString, int> counts;
+        auto table = std::make_unique<IncidentCounts>();
         Statement st(m_incidentsDb, QStringLiteral("select count(*), un_id from incidents group by un_id"));
-        while (st.step())
-            counts.insert(st.text(1), st.integer(0));
+        while (st.step()) {
+            const QString unId = st.text(1);
+            counts.insert(unId, st.integer(0));
+            table->add(unId, st.integer(0));
+        }
         m_materialsWithIncidents = std::move(counts);
+        m_incidentCounts = std::move(table);
     }
     return *m_materialsWithIncidents;
 }
@@ -726,16 +1057,12 @@ const QORModel::SharedOrders& QORModel::sharedOrders()
     SharedOrders& orders = m_sharedOrders.emplace(SharedOrders{});
     const int n = int(m_materials.size());
     orders.count = n;
-    // Sort keys computed once per material rather than in every comparison.
-    const size_t count = static_cast<size_t>(n);
-    std::vector<int> guide(count), incidents(count), unId(count);
-    for (int i = 0; i < n; ++i) {
-        const Material& m = *m_materials.at(i);
-        guide[size_t(i)] = leadingInt(m.guideId);
-        incidents[size_t(i)] = m.numIncidents();
-        unId[size_t(i)] = leadingInt(m.unId);
-    }
-    auto sortedBy = [n](const std::vector<int>& key, bool descending) {
+    // The keys were read with the materials, once each.
+    Q_ASSERT(m_sortKeys.size() == size_t(n));
+    auto sortedBy = [n, this](int SortKeys::*field, bool descending) {
+        std::vector<int> key(static_cast<size_t>(n));
+        for (size_t i = 0; i < key.size(); ++i)
+            key[i] = m_sortKeys[i].*field;
         std::vector<int> order(static_cast<size_t>(n));
         if (n == 0)
             return order;
@@ -764,9 +1091,9 @@ const QORModel::SharedOrders& QORModel::sharedOrders()
             order[size_t(start[slot(key[size_t(i)])]++)] = i;
         return order;
     };
-    orders.byGuide = sortedBy(guide, false);
-    orders.byIncidents = sortedBy(incidents, true);
-    orders.byUnId = sortedBy(unId, false);
+    orders.byGuide = sortedBy(&SortKeys::guide, false);
+    orders.byIncidents = sortedBy(&SortKeys::incidents, true);
+    orders.byUnId = sortedBy(&SortKeys::unId, false);
     return orders;
 }
 
@@ -779,10 +1106,7 @@ void QORModel::fillFilter(Filter& filter)
     filter.unIdSections.clear();
     filter.filteredArray = getMaterialsUsingFilter(filter);
     const MaterialList& list = *filter.filteredArray;
-
-    AlphaSectioning alpha(filter.alphaSections);
-    for (const auto& m : list)
-        alpha.add(m);
+    addAlphaSections(filter.alphaSections, list);
 
     // The filter's members, by their place among all materials; the whole
     // list when the filter has every material.
@@ -806,43 +1130,30 @@ void QORModel::fillFilter(Filter& filter)
                 member[size_t(i)] = members.contains(m_materials.at(i).get());
         }
     }
-    auto restricted = [&](const std::vector<int>& order) {
-        MaterialList out;
-        out.reserve(list.size());
+    // A shared order restricted to the members; valid until the next call.
+    std::vector<int> places;
+    auto restricted = [&](const std::vector<int>& order) -> const std::vector<int>& {
+        if (everything)
+            return order;
+        places.clear();
         for (const int i : order)
-            if (everything || member[size_t(i)])
-                out.append(m_materials.at(i));
-        return out;
+            if (member[size_t(i)])
+                places.push_back(i);
+        return places;
     };
-    filter.guideSortedArray = restricted(orders.byGuide);
-    filter.incidentsSortedArray = restricted(orders.byIncidents);
-    filter.unIdSortedArray = restricted(orders.byUnId);
+    filter.incidentsSortedArray = materialsAt(m_materials, restricted(orders.byIncidents));
 
-    // Sections: neighbours in a sorted list mostly share theirs, so the last
-    // one is kept rather than looked up again.
-    MaterialList* section = nullptr;
-    const QString* sectionKey = nullptr;
-    for (const auto& m : std::as_const(filter.guideSortedArray)) {
-        if (!section || *sectionKey != m->guideId) {
-            section = &filter.guideSections[m->guideId];
-            sectionKey = &m->guideId;
-        }
-        section->append(m);
-    }
-    section = nullptr;
-    int hundred = -1;
-    for (const auto& m : std::as_const(filter.unIdSortedArray)) {
-        int n = leadingInt(m->unId);
-        if (m->chemicalWarefareAgent && *m->chemicalWarefareAgent == QLatin1String("Z"))
-            n = 0;
-        const int bucket = n == 0 ? -2 : (n / 100) * 100;
-        if (!section || bucket != hundred) {
-            const QString key = n == 0 ? QStringLiteral(" No Id") : QString::number(bucket);
-            section = &filter.unIdSections[key];
-            hundred = bucket;
-        }
-        section->append(m);
-    }
+    const std::vector<int>& byGuide = restricted(orders.byGuide);
+    filter.guideSortedArray = materialsAt(m_materials, byGuide);
+    addSectionRuns(
+        filter.guideSections, filter.guideSortedArray, byGuide,
+        [&](int i) -> const QString& { return m_materials.at(i)->guideId; }, [](const QString& guide) { return guide; });
+
+    const std::vector<int>& byUnId = restricted(orders.byUnId);
+    filter.unIdSortedArray = materialsAt(m_materials, byUnId);
+    addSectionRuns(
+        filter.unIdSections, filter.unIdSortedArray, byUnId, [&](int i) { return m_sortKeys[size_t(i)].unIdBucket; },
+        [](int bucket) { return bucket == SortKeys::kNoId ? QStringLiteral(" No Id") : QString::number(bucket); });
     filter.invalidateSectionKeys();
     logMemory("after filter rebuild");
 }

@@ -180,6 +180,19 @@ private:
     Database m_cfrDb;
     Database m_npgDb;
     std::optional<QHash<QString, int>> m_materialsWithIncidents;
+    // The same counts in a flat table of short UN numbers, made with them.
+    class IncidentCounts;
+    std::unique_ptr<IncidentCounts> m_incidentCounts;
+    // Each material's sort keys, by its place in materials(): read with the
+    // material, while it is at hand.
+    struct SortKeys {
+        int guide = 0;
+        int incidents = 0;
+        int unId = 0;
+        int unIdBucket = 0;  // its hundred of UN numbers (its section), or kNoId
+        static constexpr int kNoId = -2;
+    };
+    std::vector<SortKeys> m_sortKeys;
     // Every material's place in the three sorted orders, shared by all
     // filters: a filter's stable order is the shared one restricted to its
     // members, since its members keep the materials' order.
@@ -190,6 +203,9 @@ private:
     std::optional<SharedOrders> m_sharedOrders;
     const SharedOrders& sharedOrders();
     void fillFilter(Filter& filter);
+    // loadMaterials, adding the new materials to the all-materials filter's
+    // sections only when asked (loadData fills that filter afresh).
+    void readMaterials(bool withAllSections);
     std::optional<MaterialList> m_loadingMaterials;
     std::optional<bool> m_packHasLargeSpillRows;
     QRecursiveMutex m_lock;

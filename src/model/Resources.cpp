@@ -69,7 +69,8 @@ void Preferences::setLanguageOverride(const QString& lang)
 
 int leadingInt(const QString& text)
 {
-    const char16_t* p = reinterpret_cast<const char16_t*>(text.utf16());
+    // constData, not utf16: no call, and the digits need no terminating null.
+    const char16_t* p = reinterpret_cast<const char16_t*>(text.constData());
     const qsizetype n = text.size();
     qsizetype i = 0;
     while (i < n && (p[i] == u' ' || QChar(p[i]).isSpace()))
@@ -88,37 +89,55 @@ int leadingInt(const QString& text)
     return int(negative ? -value : value);
 }
 
-QString capitalized(QStringView text)
+namespace {
+// Writes n characters of in (UTF-16 units or Latin-1 bytes), capitalised, to out.
+template <typename Char>
+void capitalizeText(const Char* in, qsizetype n, char16_t* out)
 {
-    // Written in place: one allocation per text.
-    QString out(text.size(), Qt::Uninitialized);
-    char16_t* o = reinterpret_cast<char16_t*>(out.data());
-    const char16_t* in = reinterpret_cast<const char16_t*>(text.utf16());
+    // ASCII, nearly every name, through a table instead of the Unicode
+    // tables: 0 for a character that ends a word, else its upper case
+    // (with the lower case 32 above it for letters).
+    static constexpr auto kAscii = [] {
+        struct { char16_t upper[128]; char16_t lower[128]; } t{};
+        for (char16_t c = 0; c < 128; ++c) {
+            const bool up = c >= 'A' && c <= 'Z', low = c >= 'a' && c <= 'z', digit = c >= '0' && c <= '9';
+            t.upper[c] = low ? char16_t(c - 32) : (up || digit) ? c : 0;
+            t.lower[c] = up ? char16_t(c + 32) : (low || digit) ? c : 0;
+        }
+        return t;
+    }();
     bool startOfWord = true;
-    for (qsizetype i = 0, n = text.size(); i < n; ++i) {
-        const char16_t u = in[i];
-        // ASCII, nearly every name, without the Unicode tables.
+    for (qsizetype i = 0; i < n; ++i) {
+        const char16_t u = char16_t(in[i]);
         if (u < 0x80) {
-            const bool upper = u >= 'A' && u <= 'Z', lower = u >= 'a' && u <= 'z';
-            if (upper || lower || (u >= '0' && u <= '9')) {
-                o[i] = startOfWord ? (lower ? char16_t(u - 32) : u) : (upper ? char16_t(u + 32) : u);
-                startOfWord = false;
-            } else {
-                o[i] = u;
-                startOfWord = true;
-            }
+            const char16_t c = startOfWord ? kAscii.upper[u] : kAscii.lower[u];
+            out[i] = c ? c : u;
+            startOfWord = c == 0;
             continue;
         }
         const QChar c(u);
         if (c.isLetterOrNumber()) {
-            o[i] = (startOfWord ? c.toUpper() : c.toLower()).unicode();
+            out[i] = (startOfWord ? c.toUpper() : c.toLower()).unicode();
             startOfWord = false;
         } else {
-            o[i] = u;
+            out[i] = u;
             startOfWord = true;
         }
     }
+}
+} // namespace
+
+QString capitalized(QStringView text)
+{
+    // Written in place: one allocation per text.
+    QString out(text.size(), Qt::Uninitialized);
+    capitalizeText(reinterpret_cast<const char16_t*>(text.utf16()), text.size(), reinterpret_cast<char16_t*>(out.data()));
     return out;
+}
+
+void capitalizeInto(QLatin1String text, char16_t* out)
+{
+    capitalizeText(reinterpret_cast<const unsigned char*>(text.data()), text.size(), out);
 }
 
 QString capitalized(const QString& text)

@@ -39,5 +39,7 @@ int leadingInt(const QString& text);
 // Word-by-word capitalisation: first letter of each word upper case, the rest lower.
 QString capitalized(const QString& text);
 QString capitalized(QStringView text);
+// The same written to out, which has room for text.size() characters.
+void capitalizeInto(QLatin1String text, char16_t* out);
 
 } // namespace qor

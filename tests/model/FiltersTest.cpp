@@ -141,3 +141,60 @@ TEST_F(Filters, EveryFilterSortsItsOwnMembersStably)
     }
     EXPECT_EQ(names(model->tihFilter->incidentsSortedArray), QStringList({ "Chlorine", "Ammonia, Anhydrous" }));
 }
+
+// Sections follow the lists whatever the file's order: a member goes under
+// the upper-cased first letter of its name (a name without one under the
+// letter of the member before), its guide, and its hundred of UN numbers.
+TEST(FilterSections, HoldEveryMemberInListOrderWhateverTheFileOrder)
+{
+    FixturePack pack;
+    pack.setMaterials({
+        "BENZENE^3^130^1114^^^",
+        "ACETONE^3^127^1090^^^",
+        "2-BUTANONE^3^127^1193^^^",
+        "BROMINE^8^154^1744^1744^^",
+        "ÉTHANOL^3^127^1170^^^",
+        "ıAB^3^130^1218^^^",
+        "ab^2.3^125^1005^1005^^",
+        "ISOPRENE^3^130P^1218^^^",
+        "1,2-DIBROMOETHANE^6.1^154^1605^^^",
+        "AMMONIA, ANHYDROUS^2.3^125^1005^1005^^",
+        "SARIN^6.1^153^2810^^^Z",
+        "ÉTHER^3^127^1155^1155^^",
+        "CHLORINE^2.3^124^1017^1017^^",
+        "ZINC ASHES^4.3^138^1435^^W^",
+    });
+    ModelFixture fixture;
+    QORModel* model = QORModel::sharedInstance();
+    const auto sectionNames = [](const QHash<QString, MaterialList>& sections) {
+        QMap<QString, QStringList> out;
+        for (auto it = sections.cbegin(); it != sections.cend(); ++it)
+            out.insert(it.key(), names(it.value()));
+        return out;
+    };
+    for (const auto& filter : std::as_const(model->filters())) {
+        SCOPED_TRACE(filter->categoryAbbrev.toStdString());
+        QMap<QString, QStringList> alpha, guide, unId;
+        QString letter;
+        for (const auto& m : *filter->filteredArray) {
+            const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
+            if (first.isLetter())
+                letter = first;
+            if (!letter.isEmpty())
+                alpha[letter] << m->name;
+        }
+        for (const auto& m : filter->guideSortedArray)
+            guide[m->guideId] << m->name;
+        for (const auto& m : filter->unIdSortedArray) {
+            const int n = m->chemicalWarefareAgent.value_or("") == "Z" ? 0 : leadingInt(m->unId);
+            unId[n == 0 ? " No Id" : QString::number(n / 100 * 100)] << m->name;
+        }
+        EXPECT_EQ(sectionNames(filter->alphaSections), alpha);
+        EXPECT_EQ(sectionNames(filter->guideSections), guide);
+        EXPECT_EQ(sectionNames(filter->unIdSections), unId);
+    }
+    const QMap<QString, QStringList> all = sectionNames(model->allFilter->alphaSections);
+    EXPECT_EQ(all.value("A"), QStringList({ "Acetone", "2-Butanone", "ab", "Ammonia, Anhydrous" }));
+    EXPECT_EQ(all.value("I"), QStringList({ "ıAB", "Isoprene", "1,2-Dibromoethane" }));
+    EXPECT_EQ(all.value("É"), QStringList({ "Éthanol", "Éther" }));
+}

@@ -32,12 +32,19 @@ TEST_F(MaterialsFile, NamesMarksAndCaptions)
         "MUSTARD^6.1^153^2810^^^X",
         "LEWISITE^6.1^153^2810^^^ ",
         "SODIUM^4.3^138^1428^^W^",
+        "ÉTHER DIÉTHYLIQUE^3^127P^1155^^^",
+        "ıAB^3^127^1155^^^",
     });
     load();
 
-    ASSERT_EQ(model->materials().size(), 8);
+    ASSERT_EQ(model->materials().size(), 10);
     EXPECT_TRUE(byName("AC")) << "short names are kept as written";
+    EXPECT_TRUE(byName("ıAB")) << "short names are kept as written";
     EXPECT_TRUE(byName("Acetic Acid, Glacial"));
+    auto ether = byName("Éther Diéthylique");
+    ASSERT_TRUE(ether) << "names beyond ASCII are capitalised too";
+    EXPECT_EQ(ether->guideId, "127");
+    EXPECT_TRUE(ether->mayPolymerize);
 
     auto acrolein = byName("Acrolein, Stabilized");
     ASSERT_TRUE(acrolein);
@@ -54,6 +61,34 @@ TEST_F(MaterialsFile, NamesMarksAndCaptions)
     EXPECT_FALSE(byName("Mustard")->qorAttributes.contains("chemicalWarefareAgent"));
     EXPECT_FALSE(byName("Lewisite")->qorAttributes.contains("chemicalWarefareAgent"));
 
+}
+
+// Names and UN numbers are read into one shared buffer; each must still
+// behave as a text of its own, ended by a null and outliving the model.
+TEST_F(MaterialsFile, NamesAndNumbersAreTextsOfTheirOwn)
+{
+    pack.setMaterials({ "ACETONE^3^127^1090^^^", "AC^6.1^117^1051^X^^Z", "ÉTHANOL^3^127^1170^^^", "ACETAL^3^127^1090^^^" });
+    QString kept;
+    {
+        load();
+        const MaterialList& materials = model->materials();
+        ASSERT_EQ(materials.size(), 4);
+        for (const auto& m : materials) {
+            EXPECT_EQ(m->name.utf16()[m->name.size()], 0) << m->name.toStdString();
+            EXPECT_EQ(m->unId.utf16()[m->unId.size()], 0) << m->name.toStdString();
+        }
+        kept = materials.at(1)->name;
+        materials.at(0)->name.append(QStringLiteral(" Extra"));
+        materials.at(0)->unId[0] = u'9';
+        EXPECT_EQ(materials.at(0)->name, "Acetone Extra");
+        EXPECT_EQ(materials.at(1)->name, "AC") << "changing a name leaves the next one";
+        EXPECT_EQ(materials.at(2)->name, "Éthanol");
+        EXPECT_EQ(materials.at(3)->unId, "1090") << "changing a number leaves the one it was shared with";
+        fixture.reset();
+    }
+    EXPECT_EQ(kept, "AC") << "a name outlives the model";
+    kept.append(QStringLiteral(" and more"));
+    EXPECT_EQ(kept, "AC and more");
 }
 
 TEST_F(MaterialsFile, ShortLinesAreSkippedAndMissingFileGivesNoMaterials)
@@ -84,15 +119,23 @@ TEST_F(MaterialsFile, IncidentCountsFollowTheGenericNameRules)
         "POISONOUS LIQUID, ORGANIC, N.O.S.^6.1^153^2810^^^",
         "ACETONE^3^127^1090^^^",
         "NO NUMBER^3^127^^^^",
+        "ZERO PADDED^3^127^01090^^^",
+        "LONG NUMBER^3^127^NA1090-12^^^",
     });
     pack.sql("hazmat_incidents.dat",
-             "insert into incidents (un_id) values ('1760'),('2810'),('2810'),('2810'),('1090');");
+             "insert into incidents (un_id) values ('1760'),('2810'),('2810'),('2810'),('1090'),"
+             "('NA1090-12'),('NA1090-12'),('NA1090-12'),('NA1090-12');");
     load();
     auto count = [](const char* name) { return byName(name)->numIncidents(); };
     EXPECT_EQ(count("Corrosive Liquid, N.O.S."), 1);
     EXPECT_EQ(count("Corrosive Liquid, Acidic, N.O.S."), 0);
     EXPECT_EQ(count("Poisonous Liquid, Organic, N.O.S."), 3);
     EXPECT_EQ(count("No Number"), 0);
+    EXPECT_EQ(count("Zero Padded"), 0) << "the number's text must match, not its value";
+    EXPECT_EQ(count("Long Number"), 4);
+    // The incidents order counts the same way, ties in file order.
+    const QStringList byIncidents = names(model->allFilter->incidentsSortedArray);
+    EXPECT_EQ(byIncidents.mid(0, 4), QStringList({ "Long Number", "Poisonous Liquid, Organic, N.O.S.", "Corrosive Liquid, N.O.S.", "Acetone" }));
 }
 
 TEST_F(MaterialsFile, ClassAndDescriptionFromTheChemistryDatabase)
@@ -114,7 +157,7 @@ TEST_F(MaterialsFile, PrefixKeysAreThoseOfTheWholeNameInLowerCase)
 {
     // Names whose lower case differs from letter-by-letter ASCII, is longer
     // than the name, or is short; neighbours share keys, then stop sharing.
-    const QStringList given{ "ÉTHER DIÉTHYLIQUE", "ÉTHANOL", "İSOPRENE", "İS", "ÆB", "AB", "ABCDEF", "ABCXYZ", "ABD" };
+    const QStringList given{ "ÉTHER DIÉTHYLIQUE", "ÉTHANOL", "İSOPRENE", "İS", "A", "ÆB", "AB", "ABCDEF", "", "ABCXYZ", "ABD" };
     QStringList lines;
     for (const QString& n : given)
         lines << n + "^3^127^1090^^^";
