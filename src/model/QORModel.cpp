@@ -562,7 +562,8 @@ void QORModel::readMaterials(bool withAllSections)
     TextBlock block(bytes.size() + 2 * lines);
     RepeatedText unIdText(block);
     // The file's materials in one allocation; each pointer to one of them
-    // shares the ownership of all.
+    // shares the ownership of all. A line makes at most one material, so the
+    // vector never grows past this and the pointers into it stay valid.
     auto materials = std::make_shared<std::vector<Material>>();
     materials->reserve(size_t(lines));
     m_materials.reserve(firstNew + lines);
