@@ -298,76 +298,27 @@ QString fromUtf8(std::string_view text)
     return QString::fromUtf8(text.data(), qsizetype(text.size()));
 }
 
-// The names and UN numbers of a file's materials, written one after another
-// into one buffer: one allocation for them all instead of one per text.
-// Each text is a QString pointing into the buffer and holding a reference to
-// it, ended by a null like any other; changing one copies it out first, as
-// the buffer is shared.
-class TextBlock {
-public:
-    // Room for texts of capacity characters and a null each.
-    explicit TextBlock(qsizetype capacity) : m_buffer(capacity, Qt::Uninitialized)
-    {
-        m_next = reinterpret_cast<char16_t*>(m_buffer.data());  // before it is shared
-        m_end = m_next + capacity;
+// A material's name, capitalised from four characters on; ASCII, nearly
+// every name, is capitalised straight from the file's bytes.
+QString materialName(std::string_view bytes)
+{
+    if (!isAscii(bytes)) {
+        const QString name = fromUtf8(bytes);
+        return name.size() >= 4 ? capitalized(name) : name;
     }
-    // A material's name, capitalised from four characters on; ASCII, nearly
-    // every name, is capitalised straight from the file's bytes.
-    QString name(std::string_view bytes)
-    {
-        if (!isAscii(bytes)) {
-            const QString name = fromUtf8(bytes);
-            return copied(name.size() >= 4 ? capitalized(name) : name);
-        }
-        const QLatin1String name(bytes.data(), qsizetype(bytes.size()));
-        char16_t* at = room(name.size());
-        if (!at)
-            return name.size() >= 4 ? capitalized(QString(name)) : QString(name);
-        if (name.size() >= 4)
-            capitalizeInto(name, at);
-        else
-            widen(name, at);
-        return made(at, name.size());
-    }
-    QString text(std::string_view bytes)
-    {
-        if (!isAscii(bytes))
-            return copied(fromUtf8(bytes));
-        const QLatin1String text(bytes.data(), qsizetype(bytes.size()));
-        char16_t* at = room(text.size());
-        if (!at)
-            return QString(text);
-        widen(text, at);
-        return made(at, text.size());
-    }
+    const QLatin1String name(bytes.data(), qsizetype(bytes.size()));
+    if (name.size() < 4)
+        return QString(name);
+    QString out(name.size(), Qt::Uninitialized);
+    capitalizeInto(name, reinterpret_cast<char16_t*>(out.data()));
+    return out;
+}
 
-private:
-    static void widen(QLatin1String text, char16_t* out)
-    {
-        for (qsizetype i = 0; i < text.size(); ++i)
-            out[i] = static_cast<unsigned char>(text.data()[i]);
-    }
-    char16_t* room(qsizetype size) const { return size < m_end - m_next ? m_next : nullptr; }
-    QString made(char16_t* at, qsizetype size)
-    {
-        at[size] = 0;
-        m_next = at + size + 1;
-        QStringPrivate& buffer = m_buffer.data_ptr();
-        buffer.ref();
-        return QString(QStringPrivate(buffer.d_ptr(), at, size));
-    }
-    QString copied(const QString& text)
-    {
-        char16_t* at = room(text.size());
-        if (!at)
-            return text;
-        std::copy_n(reinterpret_cast<const char16_t*>(text.constData()), text.size(), at);
-        return made(at, text.size());
-    }
-    QString m_buffer;
-    char16_t* m_next = nullptr;
-    char16_t* m_end = nullptr;
-};
+// A short field as text: ASCII, nearly every one, without the UTF-8 decoder.
+QString fieldText(std::string_view bytes)
+{
+    return isAscii(bytes) ? QString(QLatin1String(bytes.data(), qsizetype(bytes.size()))) : fromUtf8(bytes);
+}
 
 // The prefix index's keys of one name: 0..3 leading characters of its lower
 // case, short names using one character fewer than they have. Lower case can
@@ -413,18 +364,16 @@ private:
 // a text is shared with the previous material, not made again.
 class RepeatedText {
 public:
-    explicit RepeatedText(TextBlock& block) : m_block(block) {}
     QString operator()(std::string_view text)
     {
         if (text != m_bytes || m_text.isNull()) {
             m_bytes = text;
-            m_text = m_block.text(text);
+            m_text = fieldText(text);
         }
         return m_text;
     }
 
 private:
-    TextBlock& m_block;
     std::string_view m_bytes;  // into the file's bytes, which outlive this
     QString m_text;
 };
@@ -557,10 +506,7 @@ void QORModel::readMaterials(bool withAllSections)
     // Material::numIncidents, with the counts looked up in a flat table.
     const QHash<QString, int>& incidentCounts = getMaterialsWithIncidents();
     SharedTexts texts;
-    // A UTF-8 file decodes to at most as many UTF-16 units as it has bytes;
-    // each line adds the nulls after its name and UN number.
-    TextBlock block(bytes.size() + 2 * lines);
-    RepeatedText unIdText(block);
+    RepeatedText unIdText;
     // The file's materials in one allocation; each pointer to one of them
     // shares the ownership of all. A line makes at most one material, so the
     // vector never grows past this and the pointers into it stay valid.
@@ -586,7 +532,7 @@ void QORModel::readMaterials(bool withAllSections)
             std::abort();
         }
         Material& m = materials->emplace_back();
-        m.name = block.name(fields[0]);
+        m.name = materialName(fields[0]);
         m.placardId = texts(fields[1]);
         const std::string_view guide = fields[2];
         if (!guide.empty() && guide.back() == 'P') {

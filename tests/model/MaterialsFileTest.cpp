@@ -63,8 +63,8 @@ TEST_F(MaterialsFile, NamesMarksAndCaptions)
 
 }
 
-// Names and UN numbers are read into one shared buffer; each must still
-// behave as a text of its own, ended by a null and outliving the model.
+// Names and UN numbers are made from the file's bytes: each must behave as
+// a text of its own, ended by a null and outliving the model.
 TEST_F(MaterialsFile, NamesAndNumbersAreTextsOfTheirOwn)
 {
     pack.setMaterials({ "ACETONE^3^127^1090^^^", "AC^6.1^117^1051^X^^Z", "ÉTHANOL^3^127^1170^^^", "ACETAL^3^127^1090^^^" });
