@@ -46,6 +46,14 @@ QStringList texts(const ErgGuide& g, Kind kind)
     return out;
 }
 
+QStringList texts(const std::vector<GuideBlock>& blocks)
+{
+    QStringList out;
+    for (const GuideBlock& b : blocks)
+        out << b.text;
+    return out;
+}
+
 // The blocks between a heading and the next heading of the same or a higher rank.
 std::vector<GuideBlock> under(const ErgGuide& g, const QString& heading)
 {
@@ -137,18 +145,14 @@ TEST(ErgGuides, BulletsVerbatimWithWrappedLinesJoined)
 TEST(ErgGuides, ColumnsAndSharedLinesComeApart)
 {
     // Guide 131 sets its small and large spill side by side.
-    QStringList spill;
-    for (const GuideBlock& b : under(guide("131"), QStringLiteral("SPILL OR LEAK")))
-        spill << b.text;
+    const QStringList spill = texts(under(guide("131"), QStringLiteral("SPILL OR LEAK")));
     const qsizetype small = spill.indexOf(QStringLiteral("Small Spill")), large = spill.indexOf(QStringLiteral("Large Spill"));
     ASSERT_GE(small, 0);
     ASSERT_EQ(large, small + 3);
     EXPECT_EQ(spill.at(small + 2), QStringLiteral("Use clean, non-sparking tools to collect absorbed material."));
     EXPECT_EQ(spill.at(large + 1), QStringLiteral("Dike far ahead of liquid spill for later disposal."));
     // Guide 163 prints two short bullets on one line.
-    QStringList safety;
-    for (const GuideBlock& b : under(guide("163"), QStringLiteral("PUBLIC SAFETY")))
-        safety << b.text;
+    const QStringList safety = texts(under(guide("163"), QStringLiteral("PUBLIC SAFETY")));
     EXPECT_EQ(safety.indexOf(QStringLiteral("Keep unauthorized personnel away.")) - safety.indexOf(QStringLiteral("Stay upwind, uphill and/or upstream.")), 1);
 }
 
@@ -167,9 +171,7 @@ TEST(ErgGuides, IntroductionFromEitherFile)
     ASSERT_TRUE(pdf.open(ergPdf("Guide_introduction.pdf"), &error));
     std::vector<GuideBlock> alone;
     ASSERT_TRUE(readGuideIntroduction(pdf, &alone, &error)) << error.toStdString();
-    ASSERT_EQ(alone.size(), intro.size());
-    for (size_t i = 0; i < intro.size(); ++i)
-        EXPECT_EQ(alone[i].text, intro[i].text);
+    EXPECT_EQ(texts(alone), texts(intro));
 
     QStringList titles, levels;
     for (const GuideBlock& b : intro) {
@@ -261,15 +263,13 @@ TEST(ErgGuides, TableOneIntroductionAsPrinted)
         << error.toStdString();
     ASSERT_GE(intro.size(), 10u);
     EXPECT_EQ(intro.front().text, QStringLiteral("HOW TO USE TABLE 1 – INITIAL ISOLATION AND PROTECTIVE ACTION DISTANCES"));
-    QStringList texts;
-    for (const GuideBlock& b : intro)
-        texts << b.text;
+    const QStringList lines = texts(intro);
     // Numbered steps whole, the four bullets of step 1, nothing of Table 1 itself.
     EXPECT_EQ(std::count_if(intro.begin(), intro.end(), [](const GuideBlock& b) { return b.kind == Kind::Bullet; }), 4);
-    EXPECT_TRUE(texts.filter(QStringLiteral("Ammonia")).isEmpty());
+    EXPECT_TRUE(lines.filter(QStringLiteral("Ammonia")).isEmpty());
     // The figure's labels are not text; a sentence broken by the page or a note label is one block.
-    EXPECT_FALSE(texts.contains(QStringLiteral("Wind Direction")) || texts.contains(QStringLiteral("Crosswind")));
-    EXPECT_EQ(texts.filter(QStringLiteral("Note 3: For the instantaneous release of the entire contents of a package (e.g., as a result of terrorism, sabotage or catastrophic failure), the distances should be doubled.")).size(), 1);
+    EXPECT_FALSE(lines.contains(QStringLiteral("Wind Direction")) || lines.contains(QStringLiteral("Crosswind")));
+    EXPECT_EQ(lines.filter(QStringLiteral("Note 3: For the instantaneous release of the entire contents of a package (e.g., as a result of terrorism, sabotage or catastrophic failure), the distances should be doubled.")).size(), 1);
 
     // The guide section has no such pages: an error naming the file, nothing read.
     PdfText guides;

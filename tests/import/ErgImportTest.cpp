@@ -1,10 +1,10 @@
 // The guidebook importer on the official pages: whole-table facts, rows read
 // by value against the printed pages, and clear errors on bad input.
 #include "ImportTestSupport.h"
+#include "../history/HistoryTestSupport.h"
 
 #include "import/ErgImport.h"
 
-#include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -231,10 +231,7 @@ TEST(ErgImportErrors, NameTheFileAndWhatIsMissing)
 
     QTemporaryDir dir;
     const QString notPdf = dir.filePath(QStringLiteral("notes.pdf"));
-    QFile f(notPdf);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("%PDF-1.4\nthis is not really a PDF\n");
-    f.close();
+    test::writeBytes(notPdf, "%PDF-1.4\nthis is not really a PDF\n");
     EXPECT_FALSE(ErgImport::read({ notPdf }, &error));
     EXPECT_TRUE(error.startsWith(notPdf + QStringLiteral(": "))) << error.toStdString();
 
@@ -246,9 +243,8 @@ TEST(ErgImportErrors, NameTheFileAndWhatIsMissing)
 
 TEST(ErgImportErrors, ATruncatedExtractGivesAnErrorOrFewerRowsNeverACrash)
 {
-    QFile f(ergPdf("TIH_Table3.pdf"));
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    const QByteArray bytes = f.readAll();
+    const QByteArray bytes = test::readBytes(ergPdf("TIH_Table3.pdf"));
+    ASSERT_FALSE(bytes.isEmpty());
     for (const qsizetype size : { qsizetype(0), qsizetype(100), bytes.size() / 2, bytes.size() - 200 }) {
         QString error;
         const auto tables = ErgImport::readData(bytes.left(size), QStringLiteral("cut.pdf"), &error);

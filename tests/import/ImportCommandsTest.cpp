@@ -1,5 +1,6 @@
 // qor-cli import-ecfr / import-npg on the official files, in-process.
 #include "CliRun.h"
+#include "../history/HistoryTestSupport.h"
 
 #include "model/Sqlite.h"
 
@@ -51,20 +52,13 @@ TEST(ImportCommands, ProvisionsAndPackagingTextsBecomePages)
 {
     QTemporaryDir dir;
     const QString provisions = dir.filePath(QStringLiteral("172.102.xml")), part173 = dir.filePath(QStringLiteral("173.203.xml"));
-    QFile p(provisions), s(part173);
-    ASSERT_TRUE(p.open(QIODevice::WriteOnly) && s.open(QIODevice::WriteOnly));
-    p.write("<DIV8 N=\"172.102\" TYPE=\"SECTION\"><HEAD>Special provisions.</HEAD><P>(a) General.</P>"
+    test::writeBytes(provisions, "<DIV8 N=\"172.102\" TYPE=\"SECTION\"><HEAD>Special provisions.</HEAD><P>(a) General.</P>"
             "<P>TP2 The maximum degree of filling must not exceed the degree of filling prescribed.</P></DIV8>");
-    s.write("<DIV8 N=\"173.203\" TYPE=\"SECTION\"><HEAD>§ 173.203 Non-bulk packagings for liquid hazardous materials in "
+    test::writeBytes(part173, "<DIV8 N=\"173.203\" TYPE=\"SECTION\"><HEAD>§ 173.203 Non-bulk packagings for liquid hazardous materials in "
             "Packing Group III.</HEAD><P>(a) Authorized packagings.</P></DIV8>");
-    p.close();
-    s.close();
     const QString out = dir.filePath(QStringLiteral("pack"));
     ASSERT_EQ(runCli({ "import-ecfr", "--output", out, provisions, part173 }).code, 0);
-    QFile page(out + QStringLiteral("/TP.html"));
-    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
-    const QString html = QString::fromUtf8(page.readAll());
-    EXPECT_TRUE(html.contains(QStringLiteral("<a name=\"TP2\"></a>")));
+    EXPECT_TRUE(test::readBytes(out + QStringLiteral("/TP.html")).contains("<a name=\"TP2\"></a>"));
     const QString cfr = out + QStringLiteral("/cfr49.db");
     EXPECT_EQ(column(cfr, "select distinct section_id from cfr_text"), QStringList{ "173.203" });
     EXPECT_EQ(column(out + QStringLiteral("/npg.db"), "select section_id || ' ' || title from hmt_sections"),
@@ -74,15 +68,13 @@ TEST(ImportCommands, ProvisionsAndPackagingTextsBecomePages)
 TEST(ImportCommands, BadFilesWriteNothing)
 {
     QTemporaryDir dir;
-    QFile bad(dir.filePath(QStringLiteral("bad.xml")));
-    ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
-    bad.write("<DIV8 N=\"173.1\" TYPE=\"SECTION\"><P>unclosed");
-    bad.close();
+    const QString bad = dir.filePath(QStringLiteral("bad.xml"));
+    test::writeBytes(bad, "<DIV8 N=\"173.1\" TYPE=\"SECTION\"><P>unclosed");
     const QString out = dir.filePath(QStringLiteral("pack"));
     // The good file comes first: it must not be written either.
-    const CliRun r = runCli({ "import-ecfr", "--output", out, kOfficial + "/cfr49/ecfr-section-172.504.xml", bad.fileName() });
+    const CliRun r = runCli({ "import-ecfr", "--output", out, kOfficial + "/cfr49/ecfr-section-172.504.xml", bad });
     EXPECT_EQ(r.code, 1);
-    EXPECT_TRUE(r.err.contains(bad.fileName() + QStringLiteral(": line "))) << r.err.toStdString();
+    EXPECT_TRUE(r.err.contains(bad + QStringLiteral(": line "))) << r.err.toStdString();
     EXPECT_TRUE(QDir(out).isEmpty());
     EXPECT_EQ(runCli({ "import-npg", "--output", out, dir.path() }).code, 1);
     EXPECT_EQ(runCli({ "import-npg", "a", "b" }).code, 2);

@@ -166,34 +166,10 @@ TEST(FilterSections, HoldEveryMemberInListOrderWhateverTheFileOrder)
     });
     ModelFixture fixture;
     QORModel* model = QORModel::sharedInstance();
-    const auto sectionNames = [](const QHash<QString, MaterialList>& sections) {
-        QMap<QString, QStringList> out;
-        for (auto it = sections.cbegin(); it != sections.cend(); ++it)
-            out.insert(it.key(), names(it.value()));
-        return out;
-    };
-    for (const auto& filter : std::as_const(model->filters())) {
-        SCOPED_TRACE(filter->categoryAbbrev.toStdString());
-        QMap<QString, QStringList> alpha, guide, unId;
-        QString letter;
-        for (const auto& m : *filter->filteredArray) {
-            const QChar first = m->name.isEmpty() ? QChar() : m->name.at(0).toUpper();
-            if (first.isLetter())
-                letter = first;
-            if (!letter.isEmpty())
-                alpha[letter] << m->name;
-        }
-        for (const auto& m : filter->guideSortedArray)
-            guide[m->guideId] << m->name;
-        for (const auto& m : filter->unIdSortedArray) {
-            const int n = m->chemicalWarefareAgent.value_or("") == "Z" ? 0 : leadingInt(m->unId);
-            unId[n == 0 ? " No Id" : QString::number(n / 100 * 100)] << m->name;
-        }
-        EXPECT_EQ(sectionNames(filter->alphaSections), alpha);
-        EXPECT_EQ(sectionNames(filter->guideSections), guide);
-        EXPECT_EQ(sectionNames(filter->unIdSections), unId);
-    }
-    const QMap<QString, QStringList> all = sectionNames(model->allFilter->alphaSections);
+    QMap<QString, QStringList> all;
+    for (auto it = model->allFilter->alphaSections.cbegin(); it != model->allFilter->alphaSections.cend(); ++it)
+        all.insert(it.key(), names(it.value()));
+    EXPECT_EQ(all.keys(), QStringList({ "A", "B", "C", "I", "S", "Z", "É" }));
     EXPECT_EQ(all.value("A"), QStringList({ "Acetone", "2-Butanone", "ab", "Ammonia, Anhydrous" }));
     EXPECT_EQ(all.value("I"), QStringList({ "ıAB", "Isoprene", "1,2-Dibromoethane" }));
     EXPECT_EQ(all.value("É"), QStringList({ "Éthanol", "Éther" }));

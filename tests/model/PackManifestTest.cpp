@@ -90,9 +90,7 @@ TEST(PackManifest, ActivePackMarksAndSourceLines)
     writeJson(pack, "{ broken");
     EXPECT_EQ(PackManifest::activeNotice(), PackManifest::unverifiedNotice());
     EXPECT_EQ(PackManifest::sourceLine({ QStringLiteral("iso_distances") }), "Source: unknown (unverified data pack)");
-    QString error;
-    EXPECT_FALSE(PackManifest::active(&error));
-    EXPECT_TRUE(error.contains(QStringLiteral("not a JSON object")));
+    EXPECT_FALSE(PackManifest::active());
 
     QFile::remove(pack.path(QString::fromLatin1(PackManifest::kFileName)));
     EXPECT_EQ(PackManifest::activeNotice(), PackManifest::unverifiedNotice());

@@ -2,6 +2,7 @@
 #include "CliRun.h"
 #include "FixturePack.h"
 #include "IncidentImport.h"
+#include "../history/HistoryTestSupport.h"
 
 #include "model/QORModel.h"
 
@@ -112,11 +113,7 @@ TEST_F(ImportFiles, WrongFormatStopsAndWritesNothing)
     const QString good = realReportFiles().first();
     const QString output = m_dir.filePath(QStringLiteral("hazmat_incidents.dat"));
     write(QStringLiteral("hazmat_incidents.dat"), "earlier file");
-    const struct {
-        const char* name;
-        QByteArray bytes;
-        const char* message;
-    } cases[] = {
+    const struct { const char* name; QByteArray bytes; const char* message; } cases[] = {
         { "names.csv", "prefix,id_number,description\nUN,1005,Ammonia\n", "names.csv:1: not an incident report file: no column \"Report Number\"" },
         { "short.csv", header() + "R-1,l,2025-01-05,Highway,UN1203,No,No\n", "short.csv:2: 7 fields, the header has 12" },
         { "date.csv", header() + "R-1,l,05/01/2025,Highway,UN1203,No,No,No,No,No,No,No\n", "date.csv:2: unreadable incident date" },
@@ -129,9 +126,7 @@ TEST_F(ImportFiles, WrongFormatStopsAndWritesNothing)
         const CliResult r = runCli({ "import-incidents", "--output", output, good, write(QString::fromLatin1(c.name), c.bytes) });
         EXPECT_EQ(r.code, 1);
         EXPECT_TRUE(r.err.contains(QLatin1String(c.message))) << r.err.toStdString();
-        QFile f(output);
-        ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-        EXPECT_EQ(f.readAll(), QByteArray("earlier file"));
+        EXPECT_EQ(readBytes(output), QByteArray("earlier file"));
     }
     EXPECT_EQ(runCli({ "import-incidents", "--months", "0", good }).code, 2);
 }

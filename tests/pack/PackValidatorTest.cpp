@@ -295,10 +295,7 @@ TEST_F(PackValidator, ManifestChecksums)
 
 TEST_F(PackValidator, ManyFaultsOfOneKindAreCapped)
 {
-    QStringList lines;
-    for (int i = 0; i < 100; ++i)
-        lines << QStringLiteral("ACETONE^3^127^1090^^");
-    pack.setMaterials(lines);
+    pack.setMaterials(QStringList(100, QStringLiteral("ACETONE^3^127^1090^^")));
     const auto v = sealed();
     EXPECT_LT(v.size(), 40);
     EXPECT_REPORTS(v, materials, QStringLiteral("75 more problems"));
