@@ -65,26 +65,21 @@ TEST_F(InfoFactoryTest, InfoPagesNeverTakeTheDarkSheet)
     EXPECT_TRUE(data.contains("base.css"));
 }
 
-TEST_F(InfoFactoryTest, ViewForPageReloadsOnEveryCall)
+// viewForPage reloads on every call; loadPage makes an unlisted page's view once.
+TEST_F(InfoFactoryTest, PagesLoadOnDemand)
 {
     make();
     factory->viewForPage(QStringLiteral("emergency"));
     factory->viewForPage(QStringLiteral("emergency"));
-    test::FakePageView* v = viewOf(QStringLiteral("emergency"));
-    EXPECT_EQ(v->loadCount, 2);
+    EXPECT_EQ(viewOf(QStringLiteral("emergency"))->loadCount, 2);
     EXPECT_EQ(factory->viewForPage(QStringLiteral("nosuchpage")), nullptr);
-}
 
-TEST_F(InfoFactoryTest, UnlistedPageGetsA500SquareViewOnDemand)
-{
-    make();
     EXPECT_FALSE(factory->infoViews().contains(QStringLiteral("decon")));
     factory->loadPage(QStringLiteral("decon"));
     factory->loadPage(QStringLiteral("decon"));  // already loading: not again
     ASSERT_TRUE(factory->infoViews().contains(QStringLiteral("decon")));
-    test::FakePageView* v = viewOf(QStringLiteral("decon"));
-    EXPECT_EQ(v->size(), QSize(500, 500));
-    EXPECT_EQ(v->loadCount, 1);
+    EXPECT_EQ(viewOf(QStringLiteral("decon"))->size(), QSize(500, 500));
+    EXPECT_EQ(viewOf(QStringLiteral("decon"))->loadCount, 1);
 }
 
 TEST_F(InfoFactoryTest, BackgroundAndListLoadingKeepToTheirLimits)

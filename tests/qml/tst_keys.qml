@@ -22,6 +22,8 @@ ShellTestCase {
 
     function list() { return win.materialList }
     function materialsStack() { return list().StackView.view }
+    // The page on top once the materials stack has stopped moving.
+    function settled() { tryCompare(materialsStack(), "busy", false); return materialsStack().currentItem }
     function typeText(text) {
         for (var i = 0; i < text.length; ++i)
             keyClick(text[i])
@@ -42,8 +44,7 @@ ShellTestCase {
         typeText(unId)
         tryVerify(function() { return list().controller.rowCount() > 0 && list().controller.materialAt(0).unId === unId }, 3000)
         keyClick(Qt.Key_Return)
-        tryCompare(materialsStack(), "busy", false)
-        var page = materialsStack().currentItem
+        var page = settled()
         compare(page.material.unId, unId)
         tryVerify(function() { return page.table.activeFocus }, 2000, "the rows take the keys")
         return page
@@ -88,8 +89,7 @@ ShellTestCase {
         keyClick(Qt.Key_Down)
         var second = list().controller.materialAt(1)
         keyClick(Qt.Key_Return)
-        tryCompare(materialsStack(), "busy", false)
-        compare(materialsStack().currentItem.material.unId, second.unId)
+        compare(settled().material.unId, second.unId)
     }
 
     function test_guideAndBackWithFullScreen() {
@@ -133,15 +133,13 @@ ShellTestCase {
         var page = openByKeys("1005")
         focusRow(page.table, "iso")
         keyClick(Qt.Key_Space)
-        tryCompare(materialsStack(), "busy", false)
-        var iso = materialsStack().currentItem
+        var iso = settled()
         var units = iso.table.delegateController.units
         keyClick(Qt.Key_U)
         compare(iso.table.delegateController.units, 1 - units)
         compare(iso.table.delegateController.sections[1].isolate, units === 0 ? "300 m" : "1000 ft")
         keyClick(Qt.Key_Left, Qt.AltModifier)
-        tryCompare(materialsStack(), "busy", false)
-        compare(materialsStack().currentItem, page)
+        compare(settled(), page)
         tryVerify(function() { return page.table.activeFocus }, 2000, "the rows have the keys again")
     }
 
@@ -152,27 +150,22 @@ ShellTestCase {
         // Ctrl+I: the page about the focused row's section, as its "i" button opens.
         focusRow(page.table, "incident")
         keyClick(Qt.Key_I, Qt.ControlModifier)
-        tryCompare(materialsStack(), "busy", false)
-        compare(materialsStack().currentItem.objectName, "infoPage")
+        compare(settled().objectName, "infoPage")
         keyClick(Qt.Key_Escape)
-        tryCompare(materialsStack(), "busy", false)
-        compare(materialsStack().currentItem, page)
+        compare(settled(), page)
         tryVerify(function() { return page.table.activeFocus }, 2000)
         page.table.currentIndex = 0
         // A shipping entry, then its non-bulk packaging section.
         focusRow(page.table, "entry")
         keyClick(Qt.Key_Enter)
-        tryCompare(materialsStack(), "busy", false)
-        compare(materialsStack().currentItem.objectName, "shippingEntry")
+        compare(settled().objectName, "shippingEntry")
         tryVerify(function() { return focusedTable() !== null }, 2000, "the entry's rows take the keys")
         focusRow(focusedTable(), "shipping", "nonBulk")
         keyClick(Qt.Key_Space)
-        tryCompare(materialsStack(), "busy", false)
-        compare(materialsStack().currentItem.objectName, "regulationPage")
+        compare(settled().objectName, "regulationPage")
         keyClick(Qt.Key_Escape)
         keyClick(Qt.Key_Escape)
-        tryCompare(materialsStack(), "busy", false)
-        compare(materialsStack().currentItem, page)
+        compare(settled(), page)
         keyClick(Qt.Key_1, Qt.ControlModifier)
         compare(page.controller.selectedViewIndex, 0)
         // Tab walks the rows one by one before leaving the table.

@@ -55,20 +55,15 @@ TEST_F(GuideScreensTest, RotatePromptUntilSeenInLandscape)
 
 TEST_F(GuideScreensTest, IsolationPanelOnlyForAMaterialWithDistances)
 {
-    GuideViewController fromList;
-    fromList.setGuide("125");
-    fromList.prepareViewsForSize(900, 400);
-    EXPECT_FALSE(fromList.isolationVisible());
-
-    GuideViewController fromMaterial;
-    fromMaterial.setGuide("125");
-    fromMaterial.setMaterial(material("1005"));
-    fromMaterial.prepareViewsForSize(900, 400);
-    EXPECT_TRUE(fromMaterial.isolationVisible());
-
-    fromMaterial.setMaterial(material("1090"));
-    fromMaterial.prepareViewsForSize(900, 400);
-    EXPECT_FALSE(fromMaterial.isolationVisible()) << "no distances for this material";
+    // Opened from the guide list (no material), then from two materials.
+    GuideViewController guide;
+    guide.setGuide("125");
+    for (const auto& [unId, shown] : std::initializer_list<std::pair<const char*, bool>>{ { "", false }, { "1005", true }, { "1090", false } }) {
+        if (*unId)
+            guide.setMaterial(material(unId));
+        guide.prepareViewsForSize(900, 400);
+        EXPECT_EQ(guide.isolationVisible(), shown) << unId;
+    }
 }
 
 TEST_F(GuideScreensTest, InfoPageLinks)

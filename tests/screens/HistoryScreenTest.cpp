@@ -40,7 +40,13 @@ struct HistoryScreenTest : ::testing::Test {
         for (int i = 0; i < n; ++i)
             HistoryManager::sharedInstance()->addToHistory(makeMaterial(QString::number(2000 + i), QString("Material %1").arg(i)));
     }
-    static QString verbose(const H& h, int row) { return h.data(h.index(row), H::VerboseTextRole).toString(); }
+    static QStringList verboseTexts(const H& h)
+    {
+        QStringList out;
+        for (int row = 0; row < h.rowCount(); ++row)
+            out << h.data(h.index(row), H::VerboseTextRole).toString();
+        return out;
+    }
 };
 } // namespace
 
@@ -52,9 +58,7 @@ TEST_F(HistoryScreenTest, RecentRowsSayHowLongAgo)
         HistoryManager::sharedInstance()->addToHistory(makeMaterial(QString::number(1000 + hours), "M"), now.addSecs(-3600 * hours));
     H h;
     CheckedModel hChecks(&h);
-    ASSERT_EQ(h.rowCount(), 5);
-    EXPECT_EQ(QStringList({ verbose(h, 0), verbose(h, 1), verbose(h, 2), verbose(h, 3), verbose(h, 4) }),
-              QStringList({ "today", "yesterday", "yesterday", "2 days ago", "10 days ago" }));
+    EXPECT_EQ(verboseTexts(h), QStringList({ "today", "yesterday", "yesterday", "2 days ago", "10 days ago" }));
 }
 
 TEST_F(HistoryScreenTest, MostViewedRowsSayHowOften)
@@ -70,9 +74,7 @@ TEST_F(HistoryScreenTest, MostViewedRowsSayHowOften)
     H h;
     CheckedModel hChecks(&h);
     h.setSegment(H::MostViewedSegment);
-    ASSERT_EQ(h.rowCount(), 4);
-    EXPECT_EQ(QStringList({ verbose(h, 0), verbose(h, 1), verbose(h, 2), verbose(h, 3) }),
-              QStringList({ "5 times", "twice", "once", "0 time" }));
+    EXPECT_EQ(verboseTexts(h), QStringList({ "5 times", "twice", "once", "0 time" }));
 }
 
 TEST_F(HistoryScreenTest, ListsAreCappedExceptAllAndClearShowsAboveFive)
@@ -91,13 +93,8 @@ TEST_F(HistoryScreenTest, ListsAreCappedExceptAllAndClearShowsAboveFive)
     EXPECT_EQ(h.rowCount(), 0) << "an unknown segment shows nothing";
     h.clearHistory();
     EXPECT_TRUE(history().allAlpha().isEmpty());
-}
-
-TEST_F(HistoryScreenTest, ReloadsWhenTheModelFinishesLoading)
-{
-    H h;
-    CheckedModel hChecks(&h);
-    EXPECT_EQ(h.rowCount(), 0);
+    // The model finishing its load makes the screen read the history again.
+    h.setSegment(H::AllSegment);
     addEntries(2);
     emit QORModel::sharedInstance()->modelLoadingStateChanged();
     EXPECT_EQ(h.rowCount(), 2);
