@@ -142,3 +142,12 @@ TEST(GuideViewScript, EvaluationWaitsForTheAnswer)
     GuideView::releaseSharedWebView();
     PageViewFactory::setCreator({});
 }
+
+TEST(PageViewPool, HandsOutWarmViewsAndRefillsToFive)
+{
+    test::FakePageViews views;
+    std::unique_ptr<PageView> view(PageViewPool::take());
+    EXPECT_EQ(PageViewPool::count(), PageViewPool::kSize);
+    EXPECT_EQ(views.made.size(), PageViewPool::kSize + 1);
+    EXPECT_EQ(static_cast<test::FakePageView*>(view.get())->loadCount, 1);
+}
