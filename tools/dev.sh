@@ -16,7 +16,8 @@ PACKAGES=(cmake g++ ninja-build pkg-config libsqlite3-dev libplist-dev
   qml6-module-qtquick-window qml6-module-qtqml-workerscript qml6-module-qtquick-templates
   qml6-module-qtwebengine qml6-module-qtquick-dialogs qml6-module-qttest
   libgtest-dev libbenchmark-dev xvfb xauth clang libclang-rt-14-dev
-  libpoppler-cpp-dev libarchive-dev libxml2-dev poppler-utils ccache)
+  libpoppler-cpp-dev libarchive-dev libxml2-dev poppler-utils ccache
+  file dpkg-dev)
 
 install_missing() {
   local missing=()
