@@ -17,7 +17,7 @@ PACKAGES=(cmake g++ ninja-build pkg-config libsqlite3-dev libplist-dev
   qml6-module-qtwebengine qml6-module-qtquick-dialogs qml6-module-qttest
   libgtest-dev libbenchmark-dev xvfb xauth clang libclang-rt-14-dev
   libpoppler-cpp-dev libarchive-dev libxml2-dev poppler-utils ccache
-  file dpkg-dev)
+  file dpkg-dev llvm)
 
 install_missing() {
   local missing=()
